@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "Utilities/LMStringAdditions.h"
+
+#include "Support.h"
+
+#include <ctime>
+
+namespace {
+
+TEST(LMRegex, MatchesAnywhereInTheText) {
+    const QString emoji = u"\U0001F426 bird"_qs;
+    const std::tuple<QString, QString, bool> cases[] = {
+        {u"Doc 12 - Editor"_qs, u"\\d+"_qs, true},
+        {u"doc"_qs, u"DOC"_qs, false},
+        {u"a\nb"_qs, u"a.b"_qs, false},
+        {u"Grüße"_qs, u"^\\p{L}+$"_qs, true},
+        {emoji, u"^. bird$"_qs, true},
+        {QString(QChar(0xd800)) + u'x', u"x$"_qs, true},
+        {u""_qs, u"^$"_qs, true},
+        {QString(), u".*"_qs, false},
+        {u"text"_qs, u"(unclosed"_qs, false},
+        {u"text"_qs, u""_qs, false},
+    };
+    LMRegexCache cache;
+    for (const auto& [text, pattern, isMatch] : cases) {
+        EXPECT_EQ(isMatchedByRegexString(text, pattern), isMatch) << text.toStdString();
+        EXPECT_EQ(cache.isMatched(text, pattern), isMatch) << text.toStdString();
+    }
+    for (int i = 0; i < 5000; ++i) // More than the cache keeps.
+        ASSERT_TRUE(cache.isMatched(u'x' + QString::number(i), QString::number(i) + u'$'));
+}
+
+TEST(LMRegex, TellsValidPatterns) {
+    for (const char* pattern : {"a", "^x+$", "(?<name>a)\\k<name>", "\\p{Lu}", "[[a-z]&&[^b]]"})
+        EXPECT_TRUE(isRegexValid(QLatin1String(pattern))) << pattern;
+    for (const char* pattern : {"", "(", "[a", "a{2,1}", "\\p{NoSuch}", "*a", "(?<n>a)\\k<m>"})
+        EXPECT_FALSE(isRegexValid(QLatin1String(pattern))) << pattern;
+    for (const QChar bracket : {u'(', u'['})
+        EXPECT_FALSE(isRegexValid(QString(100000, bracket)));
+}
+
+// The texts that make each pattern backtrack without end, or search in quadratic time.
+TEST(LMRegex, BoundsCatastrophicPatterns) {
+    const QString longTitle = QString(100000, u'a') + u'!';
+    QStringList patterns{QString(5000, u'a') + u'b'};
+    for (const char* pattern :
+         {"(a+)+$", "(a|aa)+$", "(.*)*x", "(?>[^x]*)y", "^(?:(?=[^x]*+y)b|a)*$", ".*.*.*x"})
+        patterns.append(QLatin1String(pattern));
+    for (const QString& pattern : std::as_const(patterns)) {
+        const LMRegex regex(pattern);
+        ASSERT_TRUE(regex.isValid());
+        const std::clock_t start = std::clock();
+        EXPECT_FALSE(regex.isMatched(longTitle));
+        EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC * 3 / 10);
+        EXPECT_TRUE(regex.ranOut()) << pattern.left(40).toStdString();
+    }
+}
+
+} // namespace

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#include "Utilities/LMStringAdditions.h"
+
+#include "Support.h"
+
+#include "Utilities/LMFormat.h"
+
+#include <algorithm>
+#include <random>
+
+namespace {
+
+TEST(LMStringAdditions, EditDistance) {
+    const std::tuple<QString, QString, std::size_t> cases[] = {
+        {u"ca"_qs, u"abc"_qs, 3},         {u"abc"_qs, u"acb"_qs, 1}, {u"abc"_qs, u"ABC"_qs, 3},
+        {u"kitten"_qs, u"sitting"_qs, 3}, {QString(), u"abc"_qs, 0}, {u"abc"_qs, QString(), 3},
+        {u"\U0001F426"_qs, u"x"_qs, 2},   {u""_qs, u"abc"_qs, 3},
+    };
+    for (const auto& [s, t, distance] : cases)
+        EXPECT_EQ(editDistanceToString(s, t), distance) << s.toStdString();
+}
+
+/// The distance by its recursive definition.
+std::size_t distanceByDefinition(QStringView s, QStringView t) {
+    if (s.isEmpty() || t.isEmpty())
+        return static_cast<std::size_t>(s.size() + t.size());
+    const auto without = [](QStringView text, qsizetype count) { return text.chopped(count); };
+    std::size_t best = std::min(
+        {distanceByDefinition(without(s, 1), t) + 1, distanceByDefinition(s, without(t, 1)) + 1,
+         distanceByDefinition(without(s, 1), without(t, 1)) + (s.back() == t.back() ? 0U : 1U)});
+    if (s.size() > 1 && t.size() > 1 && s.back() == t[t.size() - 2] && s[s.size() - 2] == t.back())
+        best = std::min(best, distanceByDefinition(without(s, 2), without(t, 2)) + 1);
+    return best;
+}
+
+TEST(LMStringAdditions, EditDistanceFollowsItsDefinition) {
+    std::mt19937 random(1);
+    std::uniform_int_distribution<int> length(0, 6);
+    std::uniform_int_distribution<char16_t> letter(u'a', u'c');
+    const auto text = [&] {
+        QString result(length(random), u' ');
+        std::generate(result.begin(), result.end(), [&] { return QChar(letter(random)); });
+        return result;
+    };
+    for (int i = 0; i < 500; ++i) {
+        const QString s = text();
+        const QString t = text();
+        ASSERT_EQ(editDistanceToString(s, t), distanceByDefinition(s, t))
+            << s.toStdString() << " to " << t.toStdString();
+    }
+}
+
+TEST(LMStringAdditions, VersionOrder) {
+    // Each version stands before the next one.
+    const char* const ascending[] = {"1.0",   "1.10",  "1.9",   "10",  "2.0a1", "2.0a10",
+                                     "2.0a2", "2.0b1", "2.0b3", "2.0", "2.0.1"};
+    const auto count = static_cast<int>(std::size(ascending));
+    for (int i = 0; i < count; ++i) {
+        for (int j = 0; j < count; ++j) {
+            const auto expected = static_cast<LMOrdering>((i > j) - (i < j));
+            const QLatin1String a(ascending[i]), b(ascending[j]);
+            EXPECT_EQ(versionNumberCompare(a, b), expected) << a.data() << " to " << b.data();
+        }
+    }
+    // More than two pieces at the letter make the whole text the base.
+    EXPECT_EQ(versionNumberCompare(u"1a2a3"_qs, u"1"_qs), LMOrdering::Descending);
+    EXPECT_EQ(versionNumberCompare(QString(), u""_qs), LMOrdering::Same);
+}
+
+TEST(LMFormat, FillsPlaceholders) {
+    const std::tuple<const char*, QStringList, const char*> cases[] = {
+        {"%lu Display%@", {u"2"_qs, u"s"_qs}, "2 Displays"},
+        {"%@ MATCHED %@", {u"%@ %%"_qs, u"b"_qs}, "%@ %% MATCHED b"},
+        {"%d %u %ld", {u"1"_qs, u"2"_qs, u"3"_qs}, "1 2 3"},
+        {"%2$@ of %1$lu", {u"a"_qs, u"b"_qs}, "b of a"},
+        {"%@ and %@", {u"one"_qs}, "one and %@"},
+        {"%3$@ %0$@ %1$ %s 100%", {u"a"_qs}, "%3$@ %0$@ %1$ %s 100%"},
+        {"100%% %%@", {u"x"_qs}, "100% %@"},
+    };
+    for (const auto& [format, arguments, result] : cases)
+        EXPECT_EQ(LMFormat(QLatin1String(format), arguments), QLatin1String(result));
+}
+
+} // namespace

@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: MIT
+#include "Utilities/LMUserDefaults.h"
+
+#include "Support.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace {
+
+class LMUserDefaultsTest : public TemporaryDirectoryTest {
+protected:
+    LMUserDefaults open() const { return LMUserDefaults(file, logger); }
+    static QString key(const char* name) { return QLatin1String(name); }
+
+    const QString name = u"settings.ini"_qs;
+    const QString file = path(name);
+};
+
+TEST_F(LMUserDefaultsTest, ReadsHandEditedValuesOrFallsBackToRegisteredOnes) {
+    write(name, "[General]\nyes=YES\noff= off\nlist=a, b\nnumber=2.5e1\ninfinite=inf\n"
+                "strange=@Rect(1 2 3 4)\nbinary=@Variant(\\0\\0\\0\\t\\0\\xff\\xff\\xff\\xff)\n"
+                "json={broken\n[Group]\nkey=value\n");
+    LMUserDefaults defaults = open();
+    QVariantMap registered{{key("yes"), false}};
+    for (const char* fallback : {"list", "infinite", "strange", "binary", "json"})
+        registered.insert(key(fallback), 7);
+    defaults.registerDefaults(registered);
+    const std::tuple<const char*, bool, double, QString, QStringList> cases[] = {
+        {"yes", true, 0, key("YES"), {key("YES")}},
+        {"off", false, 0, key("off"), {key("off")}},
+        {"list", true, 7, key("7"), {key("a"), key("b")}},
+        {"number", true, 25, key("2.5e1"), {key("2.5e1")}},
+        {"infinite", true, 7, key("inf"), {key("inf")}},
+        {"strange", true, 7, key("7"), {key("7")}},
+        {"binary", true, 7, key("7"), {}},
+        {"Group/key", false, 0, key("value"), {key("value")}},
+        {"absent", false, 0, QString(), {}},
+    };
+    for (const auto& [each, boolean, number, string, array] : cases) {
+        EXPECT_EQ(defaults.boolForKey(key(each)), boolean) << each;
+        EXPECT_EQ(defaults.doubleForKey(key(each)), number) << each;
+        EXPECT_EQ(defaults.stringForKey(key(each)), string) << each;
+        EXPECT_EQ(defaults.stringArrayForKey(key(each)), array) << each;
+    }
+    EXPECT_TRUE(defaults.dictionaryForKey(key("json")).isEmpty());
+    EXPECT_TRUE(messages.isEmpty());
+}
+
+TEST_F(LMUserDefaultsTest, KeepsWhatWasSet) {
+    const QString nasty = u"@Variant a,b\n\"\\ \U0001F426;="_qs;
+    const QStringList list{nasty, key(""), key("x")};
+    LMUserDefaults before = open();
+    before.setObject(key("number"), 0.1);
+    before.setObject(key("string"), nasty);
+    before.setObject(key("data"), QByteArray("\0\xff\n@,", 5));
+    before.setObject(key("map"), QVariantMap{{key("keyCode"), 12}});
+    before.setObject(key("list"), list);
+    before.setObject(key("none"), QStringList());
+    before.setObject(key("gone"), 1);
+    before.removeObject(key("gone"));
+    LMUserDefaults defaults = open();
+    defaults.registerDefaults({{key("none"), QStringList(key("registered"))}});
+    EXPECT_EQ(defaults.doubleForKey(key("number")), 0.1);
+    EXPECT_EQ(defaults.stringForKey(key("string")), nasty);
+    EXPECT_EQ(defaults.dataForKey(key("data")), QByteArray("\0\xff\n@,", 5));
+    EXPECT_EQ(defaults.dictionaryForKey(key("map")).value(key("keyCode")), 12);
+    EXPECT_EQ(defaults.stringArrayForKey(key("list")), list);
+    EXPECT_EQ(defaults.stringArrayForKey(key("none")), QStringList());
+    EXPECT_FALSE(defaults.hasObject(key("gone")));
+}
+
+TEST_F(LMUserDefaultsTest, FileIsForTheOwnerOnlyAndALinkStaysALink) {
+    constexpr auto ownerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                               QFileDevice::ReadUser | QFileDevice::WriteUser;
+    const QString nested = path(u"a/b/settings.ini"_qs);
+    LMUserDefaults(nested, logger).setObject(key("x"), 1);
+    EXPECT_EQ(QFileInfo(nested).permissions(), ownerOnly);
+    QFile::setPermissions(nested, ownerOnly | QFileDevice::ReadOther);
+    ASSERT_TRUE(QFile::link(nested, file));
+    open().setObject(key("y"), 2);
+    EXPECT_TRUE(QFileInfo(file).isSymLink());
+    EXPECT_EQ(QFileInfo(nested).permissions(), ownerOnly);
+    EXPECT_EQ(content(u"a/b/settings.ini"_qs), QByteArray("[General]\nx=1\ny=2\n"));
+}
+
+TEST_F(LMUserDefaultsTest, KeepsWhatOthersChangedInTheFile) {
+    LMUserDefaults defaults = open();
+    defaults.setObject(key("y"), 1);
+    write(name, "[General]\nhand=edited\nx=5\n");
+    defaults.setObject(key("y"), 2);
+    EXPECT_EQ(content(name), QByteArray("[General]\nhand=edited\nx=5\ny=2\n"));
+    EXPECT_EQ(defaults.stringForKey(key("hand")), key("edited"));
+}
+
+TEST_F(LMUserDefaultsTest, LeavesMalformedFilesAloneUntilSomethingIsSet) {
+    const std::pair<QByteArray, bool> cases[] = {
+        {"good=1\nthis is no setting\n", true},
+        {"[unclosed\ngood=1\n", false},
+        {QByteArray("\0\1\2\xff\xfe garbage", 13), false},
+        {"good=1\n;" + QByteArray(2000000, 'a'), false},
+    };
+    int copies = 0;
+    for (const auto& [malformed, isPartlyReadable] : cases) {
+        SCOPED_TRACE(malformed.left(40).toStdString());
+        messages.clear();
+        write(name, malformed);
+        LMUserDefaults defaults = open();
+        EXPECT_EQ(defaults.boolForKey(key("good")), isPartlyReadable);
+        EXPECT_EQ(messages.size(), 1);
+        EXPECT_EQ(content(name), malformed);
+
+        defaults.setObject(key("new"), key("value"));
+        EXPECT_EQ(content(u"settings.ini.malformed-%1"_qs.arg(++copies)), malformed);
+        EXPECT_EQ(open().stringForKey(key("new")), key("value"));
+        QFile::remove(file);
+    }
+}
+
+TEST_F(LMUserDefaultsTest, FailedWritesAreLoggedAndTheValueHolds) {
+    QDir(directory.path()).mkdir(name);
+    LMUserDefaults defaults = open();
+    messages.clear();
+    defaults.setObject(key("x"), 1);
+    EXPECT_EQ(messages.size(), 1);
+    EXPECT_EQ(defaults.doubleForKey(key("x")), 1);
+    QDir(directory.path()).rmdir(name);
+    defaults.setObject(key("y"), 2);
+    EXPECT_EQ(content(name), QByteArray("[General]\nx=1\ny=2\n"));
+}
+
+TEST_F(LMUserDefaultsTest, DoesNotWaitForAPipeAndLeavesItAlone) {
+    ASSERT_EQ(::mkfifo(QFile::encodeName(file).constData(), 0600), 0);
+    LMUserDefaults defaults = open();
+    defaults.setObject(key("x"), 1);
+    EXPECT_EQ(defaults.doubleForKey(key("x")), 1);
+    EXPECT_TRUE(QFileInfo::exists(file));
+    EXPECT_FALSE(QFileInfo(file).isFile());
+}
+
+TEST_F(LMUserDefaultsTest, FullDiskKeepsTheOldContent) {
+    open().setObject(key("old"), 1);
+    LMUserDefaults defaults = open();
+    rlimit unlimited{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &unlimited), 0);
+    const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limited = unlimited;
+    limited.rlim_cur = 4096;
+    setrlimit(RLIMIT_FSIZE, &limited);
+    defaults.setObject(key("big"), QString(100000, u'x'));
+    setrlimit(RLIMIT_FSIZE, &unlimited);
+    std::signal(SIGXFSZ, oldHandler);
+
+    EXPECT_EQ(messages.size(), 1);
+    EXPECT_EQ(content(name), QByteArray("[General]\nold=1\n"));
+}
+
+} // namespace
