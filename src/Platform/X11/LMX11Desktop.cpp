@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/X11/LMX11Desktop.h"
+
+#include "Platform/LMDesktopEntries.h"
+#include "Platform/X11/LMX11Accessibility.h"
+#include "Platform/X11/LMX11ApplicationIndex.h"
+#include "Platform/X11/LMX11Applications.h"
+#include "Platform/X11/LMX11Connection.h"
+#include "Platform/X11/LMX11Screens.h"
+#include "Platform/X11/LMX11WindowManager.h"
+#include "Platform/X11/LMX11WindowServer.h"
+
+/// In the order in which they are built on each other.
+struct LMX11Desktop::Parts {
+    explicit Parts(std::unique_ptr<LMX11Connection> opened)
+        : connection(std::move(opened)), desktopEntries(), windowManager(*connection),
+          index(*connection, desktopEntries), accessibility(*connection, index, windowManager),
+          windowServer(*connection, index), screens(*connection),
+          applications(*connection, index, desktopEntries, windowManager) {}
+
+    std::unique_ptr<LMX11Connection> connection;
+    LMDesktopEntries desktopEntries;
+    LMX11WindowManager windowManager;
+    LMX11ApplicationIndex index;
+    LMX11Accessibility accessibility;
+    LMX11WindowServer windowServer;
+    LMX11Screens screens;
+    LMX11Applications applications;
+};
+
+std::unique_ptr<LMX11Desktop> LMX11Desktop::open(const LMLogger& logger, QString* reason) {
+    std::unique_ptr<LMX11Connection> connection = LMX11Connection::open(QString(), logger, reason);
+    if (!connection)
+        return nullptr;
+    return std::unique_ptr<LMX11Desktop>(
+        new LMX11Desktop(std::make_unique<Parts>(std::move(connection))));
+}
+
+LMX11Desktop::LMX11Desktop(std::unique_ptr<Parts> parts) : d(std::move(parts)) {
+    connect(d->connection.get(), &LMX11Connection::connectionLost, this,
+            &LMDesktop::connectionLost);
+}
+
+LMX11Desktop::~LMX11Desktop() = default;
+
+QString LMX11Desktop::backendName() const {
+    return QStringLiteral("X11");
+}
+
+LMAccessibility& LMX11Desktop::accessibility() {
+    return d->accessibility;
+}
+
+LMWindowServer& LMX11Desktop::windowServer() {
+    return d->windowServer;
+}
+
+LMScreens& LMX11Desktop::screens() {
+    return d->screens;
+}
+
+LMApplications& LMX11Desktop::applications() {
+    return d->applications;
+}
+
+LMPermission LMX11Desktop::checkPermission() {
+    return d->windowManager.checkPermission();
+}
+
+QList<LMCapability> LMX11Desktop::capabilities() const {
+    return {{QStringLiteral("arrangeDisplays"), d->screens.canArrangeDisplays()}};
+}
+
+QString LMX11Desktop::windowManagerName() const {
+    return d->windowManager.name();
+}
+
+namespace {
+
+bool isX11Session(const QProcessEnvironment& environment, QString* reason) {
+    const auto has = [&](const char* variable) {
+        return !environment.value(QLatin1String(variable)).isEmpty();
+    };
+    const QString sessionType = environment.value(QStringLiteral("XDG_SESSION_TYPE"));
+    if (has("WAYLAND_DISPLAY") || sessionType == QStringLiteral("wayland")) {
+        *reason = QStringLiteral("Wayland sessions are not supported yet: most windows are out of "
+                                 "reach there. Log in to an X11 session.");
+        return false;
+    }
+    if (!has("DISPLAY")) {
+        *reason = QStringLiteral("There is no X server to connect to: DISPLAY is not set.");
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+LMBackend LMX11Backend() {
+    return {QStringLiteral("X11"), isX11Session,
+            [](LMLogger& logger, QString* reason) -> std::unique_ptr<LMDesktop> {
+                return LMX11Desktop::open(logger, reason);
+            }};
+}

@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/X11/LMX11WindowManager.h"
+
+#include "Platform/X11/LMX11Properties.h"
+
+#include <algorithm>
+#include <chrono>
+#include <limits>
+
+namespace {
+
+/// Source indication of pagers and other tools that act for the user: managers obey without asking
+/// themselves whether the application may (EWMH, "Source indication in requests").
+constexpr uint32_t userSource = 2;
+
+/// A manager that has left so many requests in a row unanswered is taken to be frozen: nobody waits
+/// long for it any more until it answers again.
+constexpr int mostMissedFences = 8;
+constexpr std::chrono::milliseconds frozenManagerTime{10};
+
+uint32_t coordinate(int value) {
+    constexpr int low = std::numeric_limits<int16_t>::min();
+    constexpr int high = std::numeric_limits<int16_t>::max();
+    return static_cast<uint32_t>(std::clamp(value, low, high));
+}
+
+uint32_t extent(int value) {
+    return static_cast<uint32_t>(std::clamp(value, 1, int(std::numeric_limits<int16_t>::max())));
+}
+
+} // namespace
+
+xcb_window_t LMX11WindowManager::supportingWindow() {
+    const xcb_atom_t atom = m_connection.ewmhAtoms()._NET_SUPPORTING_WM_CHECK;
+    const auto window =
+        LMX11PropertyRequest(m_connection, m_connection.root(), atom).receive(m_connection);
+    const xcb_window_t candidate = window.firstWord().value_or(XCB_WINDOW_NONE);
+    if (candidate == XCB_WINDOW_NONE)
+        return XCB_WINDOW_NONE;
+    const auto itself = LMX11PropertyRequest(m_connection, candidate, atom).receive(m_connection);
+    return itself.firstWord() == candidate ? candidate : xcb_window_t(XCB_WINDOW_NONE);
+}
+
+bool LMX11WindowManager::isRunning() {
+    return supportingWindow() != XCB_WINDOW_NONE;
+}
+
+QString LMX11WindowManager::name() {
+    const xcb_window_t window = supportingWindow();
+    if (window == XCB_WINDOW_NONE)
+        return {};
+    const LMX11PropertyRequest request(m_connection, window, m_connection.ewmhAtoms()._NET_WM_NAME);
+    return LMX11Text(request.receive(m_connection), m_connection.atoms());
+}
+
+LMPermission LMX11WindowManager::checkPermission() {
+    LMPermission permission;
+    if (!m_connection.isConnected())
+        permission.missing = {QStringLiteral("The X server does not answer.")};
+    else if (!isRunning())
+        permission.missing = {QStringLiteral("No window manager is running.")};
+    else
+        permission.missing = missingProtocols();
+    permission.isTrusted = permission.missing.isEmpty();
+    return permission;
+}
+
+QStringList LMX11WindowManager::missingProtocols() {
+    const xcb_ewmh_connection_t& atoms = m_connection.ewmhAtoms();
+    const std::pair<xcb_atom_t, const char*> needed[] = {
+        {atoms._NET_CLIENT_LIST_STACKING, "_NET_CLIENT_LIST_STACKING"},
+        {atoms._NET_MOVERESIZE_WINDOW, "_NET_MOVERESIZE_WINDOW"},
+        {atoms._NET_ACTIVE_WINDOW, "_NET_ACTIVE_WINDOW"},
+        {atoms._NET_WM_STATE, "_NET_WM_STATE"},
+        {atoms._NET_WM_STATE_HIDDEN, "_NET_WM_STATE_HIDDEN"},
+    };
+    const LMX11PropertyRequest request(m_connection, m_connection.root(), atoms._NET_SUPPORTED);
+    const LMX11Property supported = request.receive(m_connection);
+    QStringList missing;
+    for (const auto& [atom, name] : needed) {
+        if (!supported.containsWord(atom))
+            missing.append(
+                QStringLiteral("The window manager does not support %1.").arg(QLatin1String(name)));
+    }
+    return missing;
+}
+
+/// A manager receives all requests to configure windows that it may have to manage, ours included,
+/// and passes on those for windows that were never mapped (ICCCM 4.1.5). It does so in the order in
+/// which requests came. openbox, xfwm4, marco, kwin and mutter have all carried out a request to
+/// move a window by then.
+bool LMX11WindowManager::waitUntilCaughtUp(LMX11Connection::Deadline deadline) {
+    m_fence = m_fence == std::numeric_limits<int16_t>::max() ? int16_t(0) : int16_t(m_fence + 1);
+    const auto place = static_cast<uint32_t>(m_fence);
+    xcb_configure_window(m_connection.xcb(), m_connection.ownWindow(), XCB_CONFIG_WINDOW_X, &place);
+    const auto isOurs = [this](const xcb_generic_event_t& event) {
+        if (LMXcbEventType(event) != XCB_CONFIGURE_NOTIFY)
+            return false;
+        const auto& notify = reinterpret_cast<const xcb_configure_notify_event_t&>(event);
+        return notify.window == m_connection.ownWindow() && notify.x == m_fence;
+    };
+    if (m_missedFences >= mostMissedFences)
+        deadline = std::min(deadline, std::chrono::steady_clock::now() + frozenManagerTime);
+    const bool hasCaughtUp = m_connection.waitForEvent(isOurs, deadline);
+    m_missedFences = hasCaughtUp ? 0 : m_missedFences + 1;
+    return hasCaughtUp;
+}
+
+void LMX11WindowManager::moveResize(xcb_window_t window, const std::optional<QPoint>& place,
+                                    const std::optional<QSize>& clientSize) {
+    constexpr uint32_t hasPlace = 3u << 8;
+    constexpr uint32_t hasSize = 3u << 10;
+    const uint32_t flags = XCB_GRAVITY_NORTH_WEST | (place ? hasPlace : 0) |
+                           (clientSize ? hasSize : 0) | userSource << 12;
+    const QPoint origin = place.value_or(QPoint());
+    const QSize size = clientSize.value_or(QSize());
+    m_connection.sendToWindowManager(window, m_connection.ewmhAtoms()._NET_MOVERESIZE_WINDOW,
+                                     {flags, coordinate(origin.x()), coordinate(origin.y()),
+                                      extent(size.width()), extent(size.height())});
+}
+
+void LMX11WindowManager::changeState(xcb_window_t window, Change change, xcb_atom_t first,
+                                     xcb_atom_t second) {
+    m_connection.sendToWindowManager(window, m_connection.ewmhAtoms()._NET_WM_STATE,
+                                     {static_cast<uint32_t>(change), first, second, userSource, 0});
+}

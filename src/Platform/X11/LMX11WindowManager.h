@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Platform/LMDesktop.h"
+#include "Platform/X11/LMX11Connection.h"
+
+#include <QRect>
+
+/// The window manager in force, through which all windows are moved (EWMH).
+class LMX11WindowManager {
+public:
+    explicit LMX11WindowManager(LMX11Connection& connection) : m_connection(connection) {}
+
+    /// Whether one runs. The mark of one that died stays on the root window, but the window that
+    /// the mark names is gone.
+    bool isRunning();
+
+    /// Empty when there is none.
+    QString name();
+
+    /// Whether it supports what moving windows needs.
+    LMPermission checkPermission();
+
+    /// Waits until the manager has worked through what was sent to it before. False when it does
+    /// not within the deadline. Returns at once when no manager runs, and soon when it has missed
+    /// many deadlines in a row.
+    bool waitUntilCaughtUp(LMX11Connection::Deadline deadline);
+
+    /// Asks for a new place, a new size or both: whatever is given. North-west gravity: the place
+    /// is that of the corner of the window with its decorations, root coordinates.
+    void moveResize(xcb_window_t window, const std::optional<QPoint>& place,
+                    const std::optional<QSize>& clientSize);
+
+    enum class Change : uint32_t { Remove = 0, Add = 1 };
+    /// Asks for a change of up to two of the window's states (_NET_WM_STATE_...).
+    void changeState(xcb_window_t window, Change change, xcb_atom_t first,
+                     xcb_atom_t second = XCB_ATOM_NONE);
+
+private:
+    xcb_window_t supportingWindow();
+    QStringList missingProtocols();
+
+    LMX11Connection& m_connection;
+    int16_t m_fence = 0;
+    int m_missedFences = 0; ///< In a row.
+};
