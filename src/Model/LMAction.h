@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Model/Store/LMManagedObject.h"
+
+#include <QString>
+
+class LMWorkspace;
+
+/// A script that runs before a workspace's windows are restored.
+class LMAction final : public LMManagedObject {
+public:
+    static QString entityName();
+    static LMEntityDescription entityDescription();
+
+    QString label() const { return m_label; }
+    void setLabel(const QString& label);
+    /// The script's full source text.
+    QString script() const { return m_script; }
+    void setScript(const QString& script);
+    /// "AppleScript" or "Shell Script"; any other value runs nothing.
+    QString runAs() const { return m_runAs; }
+    void setRunAs(const QString& runAs);
+    /// Runs only on restores that a display change caused.
+    bool runOnDisplayChange() const { return m_runOnDisplayChange; }
+    void setRunOnDisplayChange(bool runOnDisplayChange);
+
+    LMWorkspace* workspace() const;
+
+    /// Runs the script and returns when its output has ended. Failures are logged.
+    void run();
+
+private:
+    void runAsAppleScript() const;
+    void runAsShellScript();
+
+    QString m_label;
+    QString m_script;
+    QString m_runAs;
+    bool m_runOnDisplayChange = false;
+};

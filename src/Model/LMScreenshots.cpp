@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "Model/LMScreenshots.h"
+
+#include "Model/LMWindow.h"
+#include "Platform/LMDesktop.h"
+#include "Platform/LMEnvironment.h"
+#include "Utilities/LMFolders.h"
+#include "Utilities/LMLogger.h"
+#include "Utilities/LMRectangle.h"
+
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace {
+
+/// Writes the whole file or none; the reason of a failure is logged.
+bool writePicture(const QImage& image, const QString& path, const LMLogger& logger) {
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && image.save(&file, "PNG") && file.commit())
+        return true;
+    logger.error(QStringLiteral("Screenshot not written to %@: %@"), {path, file.errorString()});
+    return false;
+}
+
+} // namespace
+
+LMScreenshot LMTakeScreenshot(LMEnvironment& environment,
+                              const QList<LMWindowDescription>& descriptions, const QRectF& frame) {
+    for (qsizetype index = 0; index < descriptions.size(); ++index) {
+        const LMWindowDescription& description = descriptions[index];
+        if (description.number == 0 || !LMRectsEqual(description.bounds, frame))
+            continue;
+        const QImage image = environment.desktop.windowServer().imageOfWindow(description.number);
+        if (!image.isNull())
+            return {index, image};
+    }
+    return {};
+}
+
+bool LMAttachScreenshot(const QImage& image, LMWindow& window) {
+    const LMEnvironment& environment = window.environment();
+    const QString path = environment.folders.uniqueScreenshotURL();
+    if (path.isNull()) {
+        environment.logger.error(QStringLiteral("No place for a screenshot"));
+        return false;
+    }
+    if (!writePicture(image, path, environment.logger))
+        return false;
+    window.setScreenshotFilename(QFileInfo(path).fileName());
+    return true;
+}

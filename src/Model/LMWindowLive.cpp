@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: MIT
+#include "Model/LMWindow.h"
+
+#include "Categories/LMAccessibilityException.h"
+#include "Categories/LMElementFunctions.h"
+#include "Model/Store/LMObjectContext.h"
+#include "Platform/LMDesktop.h"
+#include "Platform/LMEnvironment.h"
+#include "Utilities/LMFolders.h"
+
+#include <QFileInfo>
+
+namespace {
+
+/// A window that does not say whether it is modal is not.
+bool isModal(LMAccessibility& accessibility, const LMElement& element) {
+    try {
+        return LMElementIsModal(accessibility, element);
+    } catch (const LMAccessibilityException&) {
+        return false;
+    }
+}
+
+QString textOrEmpty(QString (*copyText)(LMAccessibility&, const LMElement&),
+                    LMAccessibility& accessibility, const LMElement& element) {
+    try {
+        return copyText(accessibility, element);
+    } catch (const LMAccessibilityException&) {
+        return QStringLiteral("");
+    }
+}
+
+} // namespace
+
+LMWindow* LMWindow::windowWithElement(LMObjectContext& context, const LMElement& element) {
+    LMAccessibility& accessibility = context.environment().desktop.accessibility();
+    if (isModal(accessibility, element))
+        return nullptr;
+    auto* window = context.insertObject<LMWindow>();
+    window->setElement(element);
+    if (window->readElement(accessibility) && !window->isDesktopWindow())
+        return window;
+    context.deleteObject(window);
+    return nullptr;
+}
+
+bool LMWindow::readElement(LMAccessibility& accessibility) {
+    setTitle(textOrEmpty(LMElementCopyTitle, accessibility, m_element));
+    setSubrole(textOrEmpty(LMElementCopySubrole, accessibility, m_element));
+    try {
+        setFrameString(LMElementCopyFrameString(accessibility, m_element));
+        setHasToolbarButton(LMElementHasToolbarButton(accessibility, m_element));
+        setHasGrowArea(LMElementHasGrowArea(accessibility, m_element));
+        setHasDocument(LMElementHasDocument(accessibility, m_element));
+        setChildren(LMElementCopyChildRoles(accessibility, m_element));
+    } catch (const LMAccessibilityException&) {
+        return false;
+    }
+    setScreenshotFilename(QStringLiteral(""));
+    return true;
+}
+
+std::vector<LMWindow*> LMWindow::windowsOfProcess(LMObjectContext& context,
+                                                  qint64 processIdentifier) {
+    LMAccessibility& accessibility = context.environment().desktop.accessibility();
+    std::vector<LMWindow*> windows;
+    try {
+        const QList<LMElement> elements = LMElementCopyWindows(accessibility, processIdentifier);
+        const LMReadingScope reading(accessibility, elements);
+        for (const LMElement& element : elements) {
+            if (LMWindow* window = windowWithElement(context, element))
+                windows.push_back(window);
+        }
+    } catch (const LMAccessibilityException&) {
+        // An application that cannot be read has no windows.
+    }
+    return windows;
+}
+
+LMWindow* LMWindow::focusedWindow(LMObjectContext& context) {
+    LMEnvironment& environment = context.environment();
+    try {
+        const LMElement element = LMElementCopyFocusedWindow(environment);
+        if (element.isNull())
+            return nullptr;
+        const LMReadingScope reading(environment.desktop.accessibility(), {element});
+        return windowWithElement(context, element);
+    } catch (const LMAccessibilityException&) {
+        return nullptr;
+    }
+}
+
+bool LMWindow::isDesktopWindow() const {
+    const auto isEmpty = [](const QString& text) { return !text.isNull() && text.isEmpty(); };
+    return !m_hasDocument && !m_hasGrowArea && !m_hasToolbarButton && isEmpty(m_subrole) &&
+           isEmpty(m_title) && m_children && *m_children == QStringList{QStringLiteral("AXGroup")};
+}
+
+QImage LMWindow::screenshot() const {
+    // Only a name: a store file from elsewhere must not lead out of the folder.
+    const QString name = QFileInfo(m_screenshotFilename).fileName();
+    const QString folder = environment().folders.screenshotsDirectoryURL();
+    QImage image;
+    if (!name.isEmpty() && !folder.isNull())
+        image.load(folder + u'/' + name);
+    return image.isNull() ? QImage(QStringLiteral(":/rook/DefaultWindow.png")) : image;
+}
