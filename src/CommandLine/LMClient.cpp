@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: MIT
+#include "CommandLine/LMClient.h"
+
+#include "CommandLine/LMTables.h"
+#include "Utilities/LMFormat.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusReply>
+#include <QDBusServiceWatcher>
+#include <QDBusVariant>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTimer>
+
+#include <chrono>
+#include <limits>
+#include <thread>
+
+namespace {
+
+constexpr QLatin1String Service{"org.rook.Rook"};
+constexpr QLatin1String Path{"/org/rook/Rook"};
+constexpr QLatin1String Interface{"org.rook.Rook1"};
+constexpr std::chrono::seconds QuitDeadline{30};
+constexpr std::chrono::milliseconds StartDeadline{10000};
+constexpr std::chrono::milliseconds StartPollInterval{20};
+/// Restoring takes as long as it takes: scripts may run before it.
+constexpr int NoTimeout = std::numeric_limits<int>::max();
+
+} // namespace
+
+LMClient::LMClient(const QDBusConnection& bus, std::FILE* output, std::FILE* errors)
+    : m_bus(bus), m_output(output), m_errors(errors) {}
+
+int LMClient::run(const LMInvocation& invocation) {
+    if (!m_bus.isConnected()) {
+        print(m_errors, LMLocalized("rook: there is no session bus to reach Rook through"));
+        return LMExitCode::NotRunning;
+    }
+    if (!isResidentRunning())
+        return notRunning();
+    switch (invocation.kind) {
+    case LMInvocation::Kind::Command:
+        return command(invocation);
+    case LMInvocation::Kind::Report:
+        return report(invocation);
+    case LMInvocation::Kind::Quit:
+        return quit(invocation);
+    default:
+        return LMExitCode::Usage;
+    }
+}
+
+int LMClient::command(const LMInvocation& invocation) {
+    const QDBusMessage reply = call(invocation);
+    if (reply.type() != QDBusMessage::ReplyMessage)
+        return failed(reply.errorMessage());
+    const QString refusal = lastRefusal();
+    if (reply.arguments().value(0).toBool()) {
+        if (!refusal.isEmpty())
+            failed(refusal);
+        return LMExitCode::Done;
+    }
+    return failed(refusal.isEmpty() ? LMLocalized("the command could not run") : refusal);
+}
+
+int LMClient::report(const LMInvocation& invocation) {
+    const QDBusMessage reply = call(invocation);
+    if (reply.type() != QDBusMessage::ReplyMessage)
+        return failed(reply.errorMessage());
+    const QJsonDocument document =
+        QJsonDocument::fromJson(reply.arguments().value(0).toString().toUtf8());
+    if (invocation.wantsJson)
+        print(m_output, QString::fromUtf8(document.toJson(QJsonDocument::Indented)).trimmed());
+    else
+        print(m_output, LMTables::forReport(invocation.method, document.object()));
+    if (std::fflush(m_output) != 0 || std::ferror(m_output) != 0)
+        return failed(LMLocalized("the output could not be written"));
+    const QJsonValue error = document.object().value(QLatin1String("error"));
+    return error.isString() ? failed(error.toString()) : LMExitCode::Done;
+}
+
+int LMClient::quit(const LMInvocation& invocation) {
+    // The process saves after it has answered: wait until its name is gone, so that a script may
+    // copy the store or start another version.
+    QDBusServiceWatcher watcher(Service, m_bus, QDBusServiceWatcher::WatchForUnregistration);
+    QEventLoop loop;
+    QObject::connect(&watcher, &QDBusServiceWatcher::serviceUnregistered, &loop, &QEventLoop::quit);
+    QTimer deadline;
+    QObject::connect(&deadline, &QTimer::timeout, &loop, [&loop] { loop.exit(1); });
+    const QDBusMessage reply = call(invocation);
+    if (reply.type() != QDBusMessage::ReplyMessage)
+        return failed(reply.errorMessage());
+    deadline.start(QuitDeadline);
+    if (isResidentRunning() && loop.exec() != 0)
+        return failed(LMLocalized("Rook has not ended yet"));
+    return LMExitCode::Done;
+}
+
+bool LMClient::isResidentRunning() const {
+    const QDBusReply<bool> reply = m_bus.interface()->isServiceRegistered(Service);
+    return reply.isValid() && reply.value();
+}
+
+QDBusMessage LMClient::call(const LMInvocation& invocation) const {
+    QDBusMessage message =
+        QDBusMessage::createMethodCall(Service, Path, Interface, invocation.method);
+    message.setArguments(invocation.arguments);
+    QElapsedTimer sinceStart;
+    sinceStart.start();
+    while (true) {
+        const QDBusMessage reply = m_bus.call(message, QDBus::Block, NoTimeout);
+        // Rook has its name before it has opened its store: it will serve in a moment.
+        const bool isStarting =
+            reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.UnknownObject");
+        if (!isStarting || sinceStart.hasExpired(StartDeadline.count()))
+            return reply;
+        std::this_thread::sleep_for(StartPollInterval);
+    }
+}
+
+QString LMClient::lastRefusal() const {
+    QDBusMessage message = QDBusMessage::createMethodCall(
+        Service, Path, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+    message.setArguments({QString(Interface), QStringLiteral("LastRefusal")});
+    const QDBusReply<QDBusVariant> reply = m_bus.call(message);
+    return reply.isValid() ? reply.value().variant().toString() : QString();
+}
+
+int LMClient::notRunning() const {
+    print(m_errors, LMLocalized("rook: Rook is not running; start it with “rook”"));
+    return LMExitCode::NotRunning;
+}
+
+int LMClient::failed(const QString& why) const {
+    print(m_errors, LMFormat(QStringLiteral("rook: %@"), {LMTables::printable(why)}));
+    return LMExitCode::Refused;
+}
+
+void LMClient::print(std::FILE* stream, const QString& text) const {
+    const QByteArray bytes = text.toUtf8() + '\n';
+    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stream);
+}

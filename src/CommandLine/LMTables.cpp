@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: MIT
+#include "CommandLine/LMTables.h"
+
+#include "Utilities/LMFormat.h"
+
+#include <QJsonArray>
+#include <QTextBoundaryFinder>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int CellLength = 48;
+
+QString cell(const QJsonValue& value) {
+    return LMTables::printable(value.toString(), CellLength);
+}
+
+QString number(const QJsonValue& value) {
+    return QString::number(value.toDouble(), 'g', 15);
+}
+
+QString geometry(const QJsonValue& frame) {
+    const QJsonObject object = frame.toObject();
+    if (object.isEmpty())
+        return QStringLiteral("-");
+    return LMFormat(QStringLiteral("%@×%@ at %@,%@"),
+                    {number(object[u"width"]), number(object[u"height"]), number(object[u"x"]),
+                     number(object[u"y"])});
+}
+
+QString joined(const QJsonValue& array) {
+    QStringList items;
+    for (const QJsonValue& item : array.toArray())
+        items.append(item.toString());
+    return LMTables::printable(items.join(QLatin1Char(' ')), CellLength);
+}
+
+QString yesOrNo(bool answer) {
+    return answer ? LMLocalized("yes") : LMLocalized("no");
+}
+
+QString displaysTable(const QJsonArray& displays) {
+    QList<QStringList> rows{{LMLocalized("DISPLAY"), LMLocalized("BOUNDS"), LMLocalized("PRODUCT"),
+                             LMLocalized("MAIN")}};
+    for (const QJsonValue& display : displays)
+        rows.append({cell(display[u"connector"]), geometry(display[u"bounds"]),
+                     cell(display[u"product"]), yesOrNo(display[u"main"].toBool())});
+    return LMTables::table(rows);
+}
+
+QString statusText(const QJsonObject& report) {
+    const QJsonObject backend = report[u"backend"].toObject();
+    const QJsonObject counts = report[u"counts"].toObject();
+    QList<QStringList> rows;
+    const auto add = [&rows](const QString& name, const QString& value) {
+        rows.append({name, value});
+    };
+    add(LMLocalized("Version"), report[u"version"].toString());
+    add(LMLocalized("Process"), number(report[u"process"]));
+    add(LMLocalized("Store"), LMTables::printable(report[u"store"].toString()));
+    add(LMLocalized("Back end"),
+        LMFormat(LMLocalized("%@, window manager %@"),
+                 {cell(backend[u"name"]), cell(backend[u"windowManager"])}));
+    const QJsonObject capabilities = backend[u"capabilities"].toObject();
+    QStringList names;
+    for (auto item = capabilities.begin(); item != capabilities.end(); ++item)
+        names.append(item.key() + (item->toBool() ? QString() : LMLocalized(" (no)")));
+    add(LMLocalized("Capabilities"), names.join(QStringLiteral(", ")));
+    add(LMLocalized("Permission"), yesOrNo(report[u"permission"][u"trusted"].toBool()));
+    for (const QJsonValue& missing : report[u"permission"][u"missing"].toArray())
+        add(LMLocalized("Missing"), LMTables::printable(missing.toString()));
+    const QJsonValue current = report[u"currentWorkspace"];
+    add(LMLocalized("Current workspace"), current.isString() ? cell(current) : LMLocalized("none"));
+    add(LMLocalized("Stored"),
+        LMFormat(LMLocalized("%@ workspaces, %@ applications, %@ windows"),
+                 {number(counts[u"workspaces"]), number(counts[u"applications"]),
+                  number(counts[u"storedWindows"])}));
+    return LMTables::table(rows) + QLatin1Char('\n') + displaysTable(report[u"displays"].toArray());
+}
+
+QString listText(const QJsonObject& report) {
+    QList<QStringList> rows{{LMLocalized("WORKSPACE"), LMLocalized("APPLICATION"),
+                             LMLocalized("WINDOW"), LMLocalized("FRAME"), LMLocalized("PATTERN")}};
+    for (const QJsonValue& workspace : report[u"workspaces"].toArray()) {
+        const QString name = cell(workspace[u"name"]) +
+                             (workspace[u"current"].toBool() ? QStringLiteral(" *") : QString());
+        for (const QJsonValue& application : workspace[u"applications"].toArray())
+            for (const QJsonValue& window : application[u"windows"].toArray())
+                rows.append({name, cell(application[u"identifier"]), cell(window[u"name"]),
+                             geometry(window[u"frame"]), cell(window[u"pattern"])});
+        if (workspace[u"applications"].toArray().isEmpty())
+            rows.append({name, QStringLiteral("-"), QStringLiteral("-"), QStringLiteral("-"), {}});
+    }
+    return LMTables::table(rows);
+}
+
+QString windowsText(const QJsonObject& report) {
+    QList<QStringList> rows{{LMLocalized("APPLICATION"), LMLocalized("TITLE"),
+                             LMLocalized("SUBROLE"), LMLocalized("CHILD ROLES"),
+                             LMLocalized("FRAME"), LMLocalized("FLAGS")}};
+    for (const QJsonValue& application : report[u"applications"].toArray()) {
+        for (const QJsonValue& window : application[u"windows"].toArray()) {
+            QStringList flags;
+            for (const char16_t* flag : {u"toolbarButton", u"growArea", u"document"})
+                if (window[QStringView(flag)].toBool())
+                    flags.append(QString::fromUtf16(flag));
+            rows.append({cell(application[u"identifier"]), cell(window[u"title"]),
+                         cell(window[u"subrole"]), joined(window[u"childRoles"]),
+                         geometry(window[u"frame"]), flags.join(QLatin1Char(' '))});
+        }
+    }
+    return LMTables::table(rows);
+}
+
+QString planText(const QJsonObject& report) {
+    QList<QStringList> rows{{LMLocalized("APPLICATION"), LMLocalized("WINDOW"),
+                             LMLocalized("STORED WINDOW"), LMLocalized("SCORE"), LMLocalized("WHY"),
+                             LMLocalized("FROM"), LMLocalized("TO")}};
+    for (const QJsonValue& application : report[u"applications"].toArray()) {
+        const QString name = cell(application[u"identifier"]);
+        for (const QJsonValue& window : application[u"windows"].toArray()) {
+            const bool isMatched = window[u"storedWindow"].isString();
+            rows.append({name, cell(window[u"title"]),
+                         isMatched ? cell(window[u"storedWindow"]) : LMLocalized("none: stays"),
+                         number(window[u"score"]), joined(window[u"reasons"]),
+                         geometry(window[u"from"]), geometry(window[u"to"])});
+        }
+        for (const QJsonValue& stored : application[u"unmatched"].toArray())
+            rows.append({name,
+                         LMLocalized("none: not open"),
+                         cell(stored[u"name"]),
+                         QStringLiteral("0"),
+                         {},
+                         QStringLiteral("-"),
+                         geometry(stored[u"frame"])});
+    }
+    return LMTables::table(rows);
+}
+
+bool isUnsafe(char32_t character) {
+    switch (QChar::category(character)) {
+    case QChar::Other_Control:
+    case QChar::Other_Format: // Bidirectional overrides would reorder the rest of the table.
+    case QChar::Other_Surrogate:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+QString LMTables::printable(const QString& text, int maxLength) {
+    QString result;
+    for (const char32_t character : text.left(qsizetype(maxLength) * 4).toUcs4()) {
+        if (isUnsafe(character))
+            result += QChar(0xFFFD);
+        else
+            result += QString::fromUcs4(&character, 1);
+    }
+    if (result.size() <= maxLength)
+        return result;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, result);
+    finder.setPosition(maxLength - 1);
+    const qsizetype end = finder.isAtBoundary() ? maxLength - 1 : finder.toPreviousBoundary();
+    return result.left(std::max<qsizetype>(end, 0)) + QStringLiteral("…");
+}
+
+QString LMTables::table(const QList<QStringList>& rows) {
+    QList<qsizetype> widths;
+    for (const QStringList& row : rows) {
+        widths.resize(std::max(widths.size(), row.size()));
+        for (qsizetype column = 0; column < row.size(); ++column)
+            widths[column] = std::max(widths[column], row[column].size());
+    }
+    QStringList lines;
+    for (const QStringList& row : rows) {
+        QString line;
+        for (qsizetype column = 0; column < row.size(); ++column)
+            line += row[column].leftJustified(widths[column] + 2);
+        lines.append(line.trimmed());
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
+QString LMTables::forReport(const QString& method, const QJsonObject& report) {
+    if (method == u"Status")
+        return statusText(report);
+    if (method == u"List")
+        return listText(report);
+    if (method == u"Windows")
+        return windowsText(report);
+    return planText(report);
+}

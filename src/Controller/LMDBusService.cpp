@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+#include "Controller/LMDBusService.h"
+
+#include "Controller/LMCommandFrame.h"
+#include "Controller/LMReports.h"
+#include "Platform/LMEnvironment.h"
+#include "rook1adaptor.h"
+#include "Utilities/LMLogger.h"
+
+#include <QCoreApplication>
+#include <QDBusError>
+#include <QJsonDocument>
+
+namespace {
+
+QString asText(const QJsonObject& report) {
+    return QString::fromUtf8(QJsonDocument(report).toJson(QJsonDocument::Compact));
+}
+
+} // namespace
+
+LMDBusService::LMDBusService(LMScriptingSupport& scriptingSupport, const LMCommandParts& parts)
+    : m_scriptingSupport(scriptingSupport), m_parts(parts), m_bus(QString()) {
+    new LMRook1Adaptor(this); // A child of the service, found by the bus through it.
+}
+
+void LMDBusService::registerOn(const QDBusConnection& bus) {
+    m_bus = bus;
+    m_bus.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
+                  QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"),
+                  this, SIGNAL(disconnected()));
+    if (!m_bus.registerObject(ObjectPath, this))
+        m_parts.environment.logger.error(QStringLiteral("D-Bus object not registered: %@"),
+                                         {m_bus.lastError().message()});
+}
+
+void LMDBusService::unregister() {
+    m_bus.unregisterService(ServiceName);
+    m_bus.unregisterObject(ObjectPath);
+}
+
+QString LMDBusService::version() const {
+    return QCoreApplication::applicationVersion();
+}
+
+bool LMDBusService::perform(quint32 eventCode, const QVariantMap& arguments) {
+    const LMScriptCommand command{LMFourCharCode("Rook"), eventCode, arguments};
+    const auto answer = m_scriptingSupport.performDefaultImplementation(command);
+    m_lastRefusal = answer ? answer->refusal : QString();
+    return answer && answer->isDone;
+}
+
+bool LMDBusService::RestoreAll() {
+    return perform(LMFourCharCode("RAll"));
+}
+
+bool LMDBusService::RestoreActiveApplication() {
+    return perform(LMFourCharCode("RApp"));
+}
+
+bool LMDBusService::RestoreApplication(const QString& application) {
+    return perform(LMFourCharCode("RNam"), {{QStringLiteral("Application"), application}});
+}
+
+bool LMDBusService::StoreActiveApplication(bool overwrite) {
+    return perform(LMFourCharCode("SApp"), {{QStringLiteral("Overwrite"), overwrite}});
+}
+
+bool LMDBusService::StoreActiveWindow(bool overwrite) {
+    return perform(LMFourCharCode("SWin"), {{QStringLiteral("Overwrite"), overwrite}});
+}
+
+bool LMDBusService::StoreAll(bool overwrite) {
+    return perform(LMFourCharCode("SAll"), {{QStringLiteral("Overwrite"), overwrite}});
+}
+
+QString LMDBusService::Status() {
+    return asText(LMReports::status(m_parts));
+}
+
+QString LMDBusService::List() {
+    return asText(LMReports::list(m_parts));
+}
+
+QString LMDBusService::Windows() {
+    return asText(LMReports::windows(m_parts));
+}
+
+QString LMDBusService::Plan(const QString& application) {
+    return asText(LMReports::plan(m_parts, application));
+}
+
+void LMDBusService::Activate() {
+    Q_EMIT activated();
+}
+
+void LMDBusService::Quit() {
+    Q_EMIT quitRequested();
+}

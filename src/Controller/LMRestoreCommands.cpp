@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+#include "Controller/LMRestoreCommands.h"
+
+#include "Controller/LMFrontmostApplication.h"
+#include "Controller/LMPermissionCheck.h"
+#include "Controller/LMUserInterface.h"
+#include "Controller/LMWorkspaceList.h"
+#include "Model/LMApplication.h"
+#include "Model/LMWorkspace.h"
+#include "Utilities/LMFormat.h"
+
+bool LMRestoreCommands::canRestoreAllWindows() const {
+    const LMWorkspace* workspace = m_parts.workspaceList.currentWorkspace();
+    return workspace && !workspace->applications().empty();
+}
+
+bool LMRestoreCommands::canRestoreActiveApplicationWindows() const {
+    const auto& active = m_parts.frontmostApplication.frontmostApplication();
+    const LMWorkspace* workspace = m_parts.workspaceList.currentWorkspace();
+    return active && workspace && workspace->storesApplication(active->bundleIdentifier);
+}
+
+LMCommandResult LMRestoreCommands::restoreWindows(bool displayChanged) {
+    if (!m_parts.permissionCheck.checkAccessibilityEnabled())
+        return LMCommandResult::refused(LMRefusal::permission(m_parts.permissionCheck));
+    LMCommandFrame frame(m_parts);
+    LMWorkspace* workspace = m_parts.workspaceList.currentWorkspace();
+    if (!workspace)
+        return LMCommandResult::refused(LMRefusal::noCurrentWorkspace());
+    {
+        LMProgressScope scope(m_parts.userInterface, LMLocalized("Restoring Windows…"), false);
+        workspace->restoreWindowsWithProgressWindowController(scope.progress(), displayChanged);
+    }
+    return frame.finish();
+}
+
+LMCommandResult LMRestoreCommands::restoreActiveApplicationWindows() {
+    if (!m_parts.permissionCheck.checkAccessibilityEnabled())
+        return LMCommandResult::refused(LMRefusal::permission(m_parts.permissionCheck));
+    if (!m_parts.frontmostApplication.updateFrontmostApplication())
+        return LMCommandResult::refused(LMRefusal::noActiveApplication());
+    const LMRunningApplication active = *m_parts.frontmostApplication.frontmostApplication();
+    return restoreApplication(active.bundleIdentifier, active.localizedName);
+}
+
+LMCommandResult LMRestoreCommands::restoreApplicationWindows(const QString& bundleIdentifier) {
+    if (!m_parts.permissionCheck.checkAccessibilityEnabled())
+        return LMCommandResult::refused(LMRefusal::permission(m_parts.permissionCheck));
+    const LMWorkspace* workspace = m_parts.workspaceList.currentWorkspace();
+    const LMApplication* application =
+        workspace ? workspace->applicationForBundleIdentifier(bundleIdentifier) : nullptr;
+    return restoreApplication(bundleIdentifier,
+                              application ? application->name() : bundleIdentifier);
+}
+
+LMCommandResult LMRestoreCommands::restoreApplication(const QString& bundleIdentifier,
+                                                      const QString& name) {
+    LMCommandFrame frame(m_parts);
+    LMWorkspace* workspace = m_parts.workspaceList.currentWorkspace();
+    if (!workspace)
+        return LMCommandResult::refused(LMRefusal::noCurrentWorkspace());
+    if (!workspace->storesApplication(bundleIdentifier))
+        return LMCommandResult::refused(LMRefusal::notStored(name));
+    {
+        const QString label = LMFormat(LMLocalized("Restoring Windows for %@…"), {name});
+        LMProgressScope scope(m_parts.userInterface, label, true);
+        workspace->restoreWindowsForApplication(bundleIdentifier);
+    }
+    return frame.finish();
+}

@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: MIT
+#include "Controller/LMStoreCommands.h"
+
+#include "Categories/LMWorkspaceAdditions.h"
+#include "Controller/LMFrontmostApplication.h"
+#include "Controller/LMPermissionCheck.h"
+#include "Controller/LMUserInterface.h"
+#include "Controller/LMWorkspaceList.h"
+#include "Model/LMApplication.h"
+#include "Model/LMStoredWindow.h"
+#include "Model/LMStoredWindowsStore.h"
+#include "Model/LMWindow.h"
+#include "Model/LMWorkspace.h"
+#include "Model/Store/LMObjectContext.h"
+#include "Platform/LMEnvironment.h"
+#include "Utilities/LMFormat.h"
+#include "Utilities/LMUserDefaultsKeys.h"
+
+namespace Keys = LMUserDefaultsKeys;
+
+bool LMStoreCommands::canStoreActiveApplicationWindows() const {
+    const auto& active = m_parts.frontmostApplication.frontmostApplication();
+    LMObjectContext& context = m_parts.store.managedObjectContext();
+    const bool canStore =
+        active && LMApplication::applicationWithRunningApplication(context, *active);
+    context.discardTransientObjects();
+    return canStore;
+}
+
+bool LMStoreCommands::canStoreActiveWindow() const {
+    LMEnvironment& environment = m_parts.environment;
+    const auto running = LMWorkspaceAdditions(environment).runningApplication();
+    if (!running || running->bundleIdentifier == environment.ownBundleIdentifier)
+        return false;
+    if (LMApplication::blockedApplications(environment).contains(running->bundleIdentifier))
+        return false;
+    LMObjectContext& context = m_parts.store.managedObjectContext();
+    const bool hasFocusedWindow = LMWindow::focusedWindow(context) != nullptr;
+    context.discardTransientObjects();
+    return hasFocusedWindow && canStoreActiveApplicationWindows();
+}
+
+std::optional<LMCommandResult> LMStoreCommands::askToReplace(const Question& question,
+                                                             bool withConfirmation) {
+    if (!withConfirmation)
+        return LMCommandResult::refused(LMRefusal::alreadyStored(question.message));
+    if (m_parts.userInterface.confirmReplacement(question.suppressionKey, question.message,
+                                                 question.informativeText))
+        return std::nullopt;
+    return LMCommandResult::refused(QString());
+}
+
+void LMStoreCommands::reportSuccess(QLatin1String suppressionKey, const QString& text,
+                                    bool withConfirmation) {
+    if (withConfirmation)
+        m_parts.userInterface.reportSuccess(suppressionKey, LMLocalized("Store Windows Succeeded"),
+                                            text);
+}
+
+LMCommandResult LMStoreCommands::storeActiveApplicationWindows(bool overwrite,
+                                                               bool withConfirmation) {
+    if (!m_parts.permissionCheck.checkAccessibilityEnabled())
+        return LMCommandResult::refused(LMRefusal::permission(m_parts.permissionCheck));
+    LMCommandFrame frame(m_parts);
+    if (!m_parts.frontmostApplication.frontmostApplication())
+        return LMCommandResult::refused(LMRefusal::noActiveApplication());
+    const LMRunningApplication active = *m_parts.frontmostApplication.frontmostApplication();
+    const LMWorkspace* present = m_parts.workspaceList.currentWorkspaceAddingIfNecessary();
+    if (!present)
+        return LMCommandResult::refused(LMRefusal::noCurrentWorkspace());
+    if (!overwrite && present->storesApplication(active.bundleIdentifier)) {
+        const Question question{
+            Keys::SuppressStoreActiveApplicationAlert,
+            LMFormat(LMLocalized("Stored windows already exist for “%@”. Do you want to replace "
+                                 "them?"),
+                     {active.localizedName}),
+            LMFormat(LMLocalized("The windows previously stored for “%@” will be replaced with its "
+                                 "current windows."),
+                     {active.localizedName})};
+        if (const auto answer = askToReplace(question, withConfirmation))
+            return *answer;
+    }
+    // The question may have taken minutes: displays and workspaces are looked up again after it.
+    LMWorkspace* workspace = m_parts.workspaceList.currentWorkspaceAddingIfNecessary();
+    if (!workspace)
+        return LMCommandResult::refused(LMRefusal::noCurrentWorkspace());
+    {
+        const QString label =
+            LMFormat(LMLocalized("Storing Windows for %@…"), {active.localizedName});
+        LMProgressScope scope(m_parts.userInterface, label, true);
+        workspace->storeWindowsForApplication(active.bundleIdentifier);
+        m_parts.store.saveWindows();
+    }
+    reportSuccess(Keys::SuppressStoreActiveApplicationSuccess,
+                  LMFormat(LMLocalized("Rook has successfully stored windows for %@."),
+                           {active.localizedName}),
+                  withConfirmation);
+    return frame.finish();
+}
+
+LMApplication* LMStoreCommands::addApplication(LMWorkspace& workspace,
+                                               const LMRunningApplication& running) {
+    LMObjectContext& context = m_parts.store.managedObjectContext();
+    LMApplication* application = LMApplication::applicationWithRunningApplication(context, running);
+    if (!application)
+        return nullptr;
+    application->removeAllWindows();
+    workspace.applications().addObject(application);
+    return application;
+}
+
+LMCommandResult LMStoreCommands::storeActiveWindow(bool overwrite, bool withConfirmation) {
+    if (!m_parts.permissionCheck.checkAccessibilityEnabled())
+        return LMCommandResult::refused(LMRefusal::permission(m_parts.permissionCheck));
+    LMCommandFrame frame(m_parts);
+    const auto active = m_parts.frontmostApplication.frontmostApplication();
+    FocusedWindow focused = findFocusedWindow(active);
+    if (!focused.window)
+        return LMCommandResult::refused(focused.refusal);
+
+    if (LMStoredWindow* identical = focused.application->identicalStoredWindow(*focused.window);
+        identical && !overwrite) {
+        const Question question{
+            Keys::SuppressStoreActiveWindowAlert,
+            LMLocalized("An identical stored window already exists. Do you want to replace it?"),
+            LMFormat(LMLocalized("The stored window labelled “%@” will be replaced with the active "
+                                 "window."),
+                     {identical->labelOrTitleIfNil()})};
+        if (const auto answer = askToReplace(question, withConfirmation))
+            return *answer;
+        // A save during the question drops live records: whoever was found before may be gone.
+        focused = findFocusedWindow(active);
+        if (!focused.window)
+            return LMCommandResult::refused(focused.refusal);
+    }
+    focused.application->storeFocusedWindow(focused.window);
+    m_parts.store.saveWindows();
+    reportSuccess(Keys::SuppressStoreActiveWindowSuccess,
+                  LMLocalized("Rook has successfully stored the active window."), withConfirmation);
+    return frame.finish();
+}
+
+LMStoreCommands::FocusedWindow
+LMStoreCommands::findFocusedWindow(const std::optional<LMRunningApplication>& active) {
+    LMWorkspace* workspace = m_parts.workspaceList.currentWorkspaceAddingIfNecessary();
+    if (!workspace)
+        return {nullptr, nullptr, LMRefusal::noCurrentWorkspace()};
+    if (!active)
+        return {nullptr, nullptr, LMRefusal::noActiveApplication()};
+    LMApplication* application =
+        workspace->applicationForBundleIdentifier(active->bundleIdentifier);
+    LMWindow* window = LMWindow::focusedWindow(m_parts.store.managedObjectContext());
+    if (!window)
+        return {nullptr, nullptr, LMLocalized("No window has the focus.")};
+    if (!application)
+        application = addApplication(*workspace, *active);
+    if (!application)
+        return {nullptr, nullptr,
+                LMFormat(LMLocalized("The windows of “%@” cannot be stored."),
+                         {active->localizedName})};
+    return {application, window, QString()};
+}
+
+LMCommandResult LMStoreCommands::storeAllWindows(bool overwrite, bool withConfirmation) {
+    if (!m_parts.permissionCheck.checkAccessibilityEnabled())
+        return LMCommandResult::refused(LMRefusal::permission(m_parts.permissionCheck));
+    LMCommandFrame frame(m_parts);
+    const LMWorkspace* present = m_parts.workspaceList.currentWorkspaceAddingIfNecessary();
+    if (!present)
+        return LMCommandResult::refused(LMRefusal::noCurrentWorkspace());
+    if (!overwrite && !present->applications().empty()) {
+        const Question question{
+            Keys::SuppressStoreAllAlert,
+            LMLocalized("Stored windows already exist. Do you want to replace them?"),
+            LMLocalized("Previously stored windows will be replaced with the windows of the "
+                        "current running applications.")};
+        if (const auto answer = askToReplace(question, withConfirmation))
+            return *answer;
+    }
+    LMWorkspace* workspace = m_parts.workspaceList.currentWorkspaceAddingIfNecessary();
+    if (!workspace)
+        return LMCommandResult::refused(LMRefusal::noCurrentWorkspace());
+    {
+        LMProgressScope scope(m_parts.userInterface,
+                              LMLocalized("Storing Windows for All Applications…"), false);
+        workspace->storeWindowsWithProgressWindowController(scope.progress());
+        m_parts.store.saveWindows();
+    }
+    reportSuccess(Keys::SuppressStoreAllSuccess,
+                  LMLocalized("Rook has successfully stored windows for all applications."),
+                  withConfirmation);
+    return frame.finish();
+}

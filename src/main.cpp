@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: MIT
+// The composition root: the only place that names concrete back ends and joins the parts.
+#include "CommandLine/LMClient.h"
+#include "CommandLine/LMInvocation.h"
+#include "Controller/LMApplicationDelegate.h"
+#include "Controller/LMUnixSignals.h"
+#include "Controller/LMWindowlessUserInterface.h"
+#include "Model/LMStoredWindowsStore.h"
+#include "Platform/LMClock.h"
+#include "Platform/LMDesktopFactory.h"
+#include "Platform/LMEnvironment.h"
+#include "Platform/LMKnownApplications.h"
+#include "Platform/X11/LMX11Desktop.h"
+#include "Utilities/LMFolders.h"
+#include "Utilities/LMFormat.h"
+#include "Utilities/LMLogger.h"
+#include "Utilities/LMNotificationCenter.h"
+#include "Utilities/LMPropertyList.h"
+#include "Utilities/LMUserDefaults.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+
+/// What is opened later must not take the place of a closed standard stream: messages would go to
+/// the X server or the bus. Whoever reads from or writes to the place holder is refused as before.
+void occupyClosedStandardStreams() {
+    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(descriptor, F_GETFD) < 0 && errno == EBADF)
+            open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+    }
+}
+
+int complain(const QString& why) {
+    std::fprintf(stderr, "rook: %s\n", why.toUtf8().constData());
+    return LMExitCode::Refused;
+}
+
+/// Hands over to the process that runs already. It answers when it has time; nobody waits for it.
+int handOver(const QDBusConnection& bus) {
+    constexpr int Milliseconds = 1000;
+    bus.call(QDBusMessage::createMethodCall(LMDBusService::ServiceName, LMDBusService::ObjectPath,
+                                            QStringLiteral("org.rook.Rook1"),
+                                            QStringLiteral("Activate")),
+             QDBus::Block, Milliseconds);
+    std::fputs("rook: Rook is running already\n", stderr);
+    return LMExitCode::Done;
+}
+
+void registerDefaults(LMUserDefaults& userDefaults, const LMLogger& logger) {
+    QString error;
+    const auto defaults =
+        LMPropertyListFromFile(QStringLiteral(":/rook/RegistrationDefaults.plist"), &error);
+    if (!defaults)
+        logger.error(QStringLiteral("Registered defaults not read: %@"), {error});
+    else
+        userDefaults.registerDefaults(defaults->toMap());
+}
+
+QString storeFailureText(const LMStoreError& error) {
+    return QStringList{error.detail, LMStoredWindowsStore::storeFailureMessageText(),
+                       error.informativeText()}
+        .join(QLatin1Char('\n'));
+}
+
+/// Everything the resident process consists of besides the desktop, in the order it is built.
+int serve(LMDesktop& desktop, LMLogger& logger, LMUnixSignals& signals,
+          const QDBusConnection& bus) {
+    LMUserDefaults userDefaults(LMUserDefaults::defaultFilePath(), logger);
+    registerDefaults(userDefaults, logger);
+    LMFolders folders = LMFolders::forCurrentUser(logger);
+    LMSystemClock clock;
+    LMNotificationCenter notificationCenter;
+    const auto knownApplications =
+        LMKnownApplications::fromPropertyList(QStringLiteral(":/rook/Known Applications.plist"));
+    LMEnvironment environment{desktop, userDefaults,       folders,          clock,
+                              logger,  notificationCenter, knownApplications};
+    LMStoredWindowsStore store(environment);
+    if (const auto opened = store.open(); !opened)
+        return complain(storeFailureText(opened.error()));
+    if (store.backupStoredWindowsIfNecessary() == LMBackupResult::NewerVersion)
+        return complain(LMStoredWindowsStore::versionMismatchMessageText() + QLatin1Char('\n') +
+                        LMStoredWindowsStore::versionMismatchInformativeText());
+
+    LMWindowlessUserInterface userInterface(userDefaults, logger);
+    LMApplicationDelegate delegate(environment, store, userInterface);
+    QObject::connect(&signals, &LMUnixSignals::terminationRequested, qApp,
+                     [] { QCoreApplication::quit(); });
+    int exitCode = LMExitCode::Done;
+    QObject::connect(&delegate, &LMApplicationDelegate::quitRequested, qApp,
+                     [&exitCode](const QString& reason) {
+                         if (!reason.isEmpty())
+                             exitCode = complain(reason);
+                         QCoreApplication::quit();
+                     });
+    delegate.dbusService().registerOn(bus);
+    delegate.applicationDidFinishLaunching();
+    QCoreApplication::exec();
+    delegate.applicationWillTerminate();
+    if (!store.saveFailure().isEmpty())
+        exitCode = complain(store.saveFailure());
+    delegate.dbusService().unregister();
+    return exitCode;
+}
+
+int runResident(const LMInvocation& invocation) {
+    LMUnixSignals signals; // Before any thread is made, so that all of them inherit the mask.
+    LMLogger logger;
+    if (invocation.isVerbose)
+        logger.setLevel(LMLogLevel::Debug);
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected())
+        return complain(LMLocalized("there is no session bus; Rook cannot be reached without one"));
+    // The name first: of two starts at the same moment only one may go on to the store.
+    if (!bus.registerService(LMDBusService::ServiceName))
+        return handOver(bus);
+
+    QString reason;
+    const auto desktop = LMCreateDesktop({LMX11Backend()}, QProcessEnvironment::systemEnvironment(),
+                                         logger, &reason);
+    if (!desktop)
+        return complain(reason);
+    return serve(*desktop, logger, signals, bus);
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    occupyClosedStandardStreams();
+    QCoreApplication::setApplicationName(QStringLiteral("rook"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(ROOK_VERSION));
+    const LMInvocation invocation = LMParseCommandLine(argc, argv);
+    if (invocation.kind == LMInvocation::Kind::Exit)
+        return invocation.exitCode;
+
+    const QCoreApplication application(argc, argv);
+    if (invocation.kind == LMInvocation::Kind::Resident)
+        return runResident(invocation);
+    return LMClient(QDBusConnection::sessionBus(), stdout, stderr).run(invocation);
+}
