@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "contract/LMContractTest.h"
+
+#include <QImage>
+
+LM_CONTRACT_SUITE(DesktopContract);
+
+TEST_P(DesktopContract, SaysWhatItIsAndCanDo) {
+    EXPECT_FALSE(desktop().backendName().isEmpty());
+    EXPECT_FALSE(desktop().windowManagerName().isEmpty());
+    const LMPermission permission = desktop().checkPermission();
+    EXPECT_TRUE(permission.isTrusted) << permission.missing.join(u'\n').toStdString();
+    EXPECT_TRUE(permission.missing.isEmpty());
+    const auto capabilities = desktop().capabilities();
+    ASSERT_EQ(capabilities.size(), 1);
+    EXPECT_EQ(capabilities[0].name, u"arrangeDisplays"_qs);
+    EXPECT_EQ(capabilities[0].isSupported, desktop().screens().canArrangeDisplays());
+}
+
+TEST_P(DesktopContract, DescribesTheWindowsOnScreenFrontToBack) {
+    const LMElement back = open({.title = u"back"_qs});
+    const LMElement front = open({.application = u"second"_qs});
+    LMWindowServer& server = desktop().windowServer();
+    backend->raise(front);
+    const auto described = [&](const LMElement& window) -> std::optional<LMWindowDescription> {
+        const qint64 owner = process(window == front ? u"second"_qs : u"first"_qs);
+        for (const auto& description : server.onScreenWindowDescriptions()) {
+            if (description.bounds == backend->visibleFrame(window) &&
+                description.ownerProcessIdentifier == owner)
+                return description;
+        }
+        return std::nullopt;
+    };
+    const auto isInFront = [&](const LMElement& window) {
+        const auto all = server.onScreenWindowDescriptions();
+        const auto description = described(window);
+        return description && all.first().number == description->number;
+    };
+    EXPECT_TRUE(LMWaitUntil([&] { return isInFront(front); }));
+    ASSERT_TRUE(described(back));
+    const quint32 number = described(back)->number;
+    EXPECT_NE(number, 0u);
+    EXPECT_EQ(described(back)->layer, 0);
+
+    backend->setState(back, LMContractState::Above);
+    ASSERT_TRUE(LMWaitUntil([&] { return isInFront(back); }));
+    EXPECT_GT(described(back)->layer, 0);
+    EXPECT_EQ(QSizeF(server.imageOfWindow(number).size()), described(back)->bounds.size());
+
+    backend->minimize(back);
+    EXPECT_TRUE(LMWaitUntil([&] { return !described(back) && isInFront(front); }));
+    backend->closeWindow(back);
+    EXPECT_TRUE(LMWaitUntil([&] { return server.imageOfWindow(number).isNull(); }));
+    EXPECT_TRUE(server.imageOfWindow(0).isNull());
+}
+
+TEST_P(DesktopContract, SurvivesTheLossOfItsConnection) {
+    const LMElement window = open();
+    const qint64 owner = process();
+    QStringList losses;
+    QObject::connect(&desktop(), &LMDesktop::connectionLost, &desktop(),
+                     [&](const QString& reason) { losses.append(reason); });
+    backend->breakConnection();
+    ASSERT_TRUE(LMWaitUntil([&] { return !losses.isEmpty(); }));
+
+    EXPECT_NE(readError(window, LMAttribute::Title), std::nullopt);
+    EXPECT_FALSE(accessibility().isAttributeSettable(window, LMAttribute::Size));
+    EXPECT_FALSE(set(window, LMAttribute::Position, QPointF(1, 1)));
+    { const LMReadingScope scope(accessibility(), {window}); }
+    EXPECT_TRUE(desktop().applications().runningApplications().isEmpty());
+    EXPECT_FALSE(desktop().applications().activate(owner));
+    EXPECT_FALSE(desktop().applications().hide(owner));
+    EXPECT_TRUE(desktop().windowServer().onScreenWindowDescriptions().isEmpty());
+    EXPECT_TRUE(desktop().windowServer().imageOfWindow(1).isNull());
+    EXPECT_TRUE(desktop().screens().screens().isEmpty());
+    EXPECT_EQ(desktop().screens().beginDisplayConfiguration(), nullptr);
+    EXPECT_FALSE(desktop().checkPermission().isTrusted);
+    EXPECT_TRUE(desktop().windowManagerName().isEmpty());
+    ASSERT_EQ(losses.size(), 1);
+    EXPECT_FALSE(losses[0].isEmpty());
+}

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Platform/LMDesktop.h"
+#include "support/LMDesktopTools.h"
+
+#include <QRect>
+#include <QSize>
+
+#include <memory>
+#include <vector>
+
+/// A window that a test asks for. The desktop may place it elsewhere.
+struct LMContractWindow {
+    enum class Kind { Standard, Dialog, Utility, ClientDecorated };
+
+    QString application = QStringLiteral("first"); ///< A name within the test.
+    int process = 0;                               ///< Which of the application's processes.
+    QString title = QStringLiteral("Window");
+    QRect geometry{200, 150, 400, 300};
+    Kind kind = Kind::Standard;
+    int gravity = 1; ///< As in the ICCCM: 1 is north-west, 10 is static.
+    QSize increment{1, 1};
+    bool isResizable = true;
+    bool isModal = false;
+};
+
+enum class LMContractState { Fullscreen, Above };
+
+/// What the contract tests need beside the desktop under test: a hand that opens and changes
+/// windows as users and other programs do, and eyes that do not look through the desktop.
+class LMContractBackend {
+public:
+    virtual ~LMContractBackend() = default;
+
+    virtual LMDesktop& desktop() = 0;
+    /// Where the application of that name appears, other than in any other test.
+    virtual QString identifier(const QString& application) const = 0;
+
+    /// Opens a window and returns when it has come to rest.
+    virtual LMElement openWindow(const LMContractWindow& window) = 0;
+    virtual void closeWindow(const LMElement& window) = 0;
+    virtual void setTitle(const LMElement& window, const QString& title) = 0;
+    /// Returns when the window is minimised.
+    virtual void minimize(const LMElement& window) = 0;
+    virtual void setState(const LMElement& window, LMContractState state) = 0;
+    /// Brings the window to the front and gives it the focus.
+    virtual void raise(const LMElement& window) = 0;
+    /// The application stops answering until the end of the test.
+    virtual void freeze(const QString& application) = 0;
+    virtual void breakConnection() = 0;
+
+    /// The frame that the user sees, global pixels.
+    virtual QRectF visibleFrame(const LMElement& window) = 0;
+    virtual bool isMinimized(const LMElement& window) = 0;
+    /// The monitors' rectangles, global pixels, in any order.
+    virtual QList<QRectF> monitors() = 0;
+};
+
+struct LMContractBackendFactory {
+    const char* name;
+    std::unique_ptr<LMContractBackend> (*create)();
+};
+
+std::unique_ptr<LMContractBackend> LMMakeFakeContractBackend();
+std::unique_ptr<LMContractBackend> LMMakeX11ContractBackend();
+
+/// Every back end that this build has.
+std::vector<LMContractBackendFactory> LMContractBackends();

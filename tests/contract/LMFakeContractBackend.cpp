@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#include "contract/LMContractBackend.h"
+#include "support/LMFakeDesktop.h"
+
+namespace {
+
+/// Furnishes the fake desktop.
+class LMFakeContractBackend final : public LMContractBackend {
+public:
+    LMFakeContractBackend() {
+        m_desktop.setScreens({QRectF(0, 0, 1920, 1080), QRectF(-1440, 90, 1440, 900)});
+    }
+    LMDesktop& desktop() override { return m_desktop; }
+    QString identifier(const QString& application) const override {
+        return u"org.contract."_qs + application;
+    }
+    LMElement openWindow(const LMContractWindow& window) override;
+    void closeWindow(const LMElement& window) override { m_desktop.removeWindow(window); }
+    void setTitle(const LMElement& window, const QString& title) override {
+        m_desktop.window(window).title = title;
+    }
+    void minimize(const LMElement& window) override {
+        m_desktop.window(window).isMinimized = true;
+        m_desktop.world().focusFrontWindow();
+    }
+    void setState(const LMElement& element, LMContractState state) override {
+        LMFakeWindow& window = m_desktop.window(element);
+        if (state == LMContractState::Above)
+            window.layer = 3;
+        else
+            window.hasImmutablePosition = window.hasImmutableSize = true;
+    }
+    void raise(const LMElement& window) override { m_desktop.focus(window); }
+    void freeze(const QString& application) override {
+        LMFakeWorld& world = m_desktop.world();
+        for (const quint32 number : world.windowsOf(*world.application(identifier(application))))
+            world.windows[number].neverAnswers = true;
+    }
+    void breakConnection() override { m_desktop.loseConnection(u"The test broke it."_qs); }
+    QRectF visibleFrame(const LMElement& window) override { return m_desktop.window(window).frame; }
+    bool isMinimized(const LMElement& window) override {
+        return m_desktop.window(window).isMinimized;
+    }
+    QList<QRectF> monitors() override {
+        QList<QRectF> rectangles;
+        for (const LMScreen& screen : std::as_const(m_desktop.world().screens))
+            rectangles.append(screen.displayBounds);
+        return rectangles;
+    }
+
+private:
+    LMFakeDesktop m_desktop;
+};
+
+LMElement LMFakeContractBackend::openWindow(const LMContractWindow& description) {
+    using Kind = LMContractWindow::Kind;
+    const bool isUtility = description.kind == Kind::Utility;
+    const QString owner = identifier(description.application);
+    if (!m_desktop.world().application(owner))
+        m_desktop.addApplication(owner, description.application, {},
+                                 isUtility ? LMActivationPolicy::Accessory
+                                           : LMActivationPolicy::Regular);
+    LMFakeWindow window;
+    window.title = description.title;
+    window.frame = description.geometry;
+    if (isUtility || description.kind == Kind::Dialog)
+        window.subrole = isUtility ? u"AXFloatingWindow"_qs : u"AXDialog"_qs;
+    window.sizeIncrement = description.increment;
+    window.hasImmutableSize = !description.isResizable;
+    window.hasGrowArea = description.isResizable;
+    window.isModal = description.isModal;
+    const LMElement element = m_desktop.addWindow(owner, window);
+    m_desktop.focus(element);
+    return element;
+}
+
+} // namespace
+
+std::unique_ptr<LMContractBackend> LMMakeFakeContractBackend() {
+    return std::make_unique<LMFakeContractBackend>();
+}

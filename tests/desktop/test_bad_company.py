@@ -1,0 +1,200 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""What other programs, broken files and missing services can do to Rook: nothing worse than a clear message."""
+from __future__ import annotations
+
+import os
+import signal
+import sqlite3
+import sys
+import time
+import unittest
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parent.parent.parent / "tools"))
+from rig.desktop import Desktop  # noqa: E402
+from rig.probe import Frame  # noqa: E402
+from rig.processes import WorkDirectory  # noqa: E402
+from rig.resident import Resident  # noqa: E402
+from rig.scenario import frames, open_windows, scatter  # noqa: E402
+from rig.session import Session  # noqa: E402
+
+HOSTILE_TITLES = ("two\nlines\r\x07", "x" * 100_000, b"\xff\xfe\xc3broken", "\u202eoverride \u0301combining \U0001f600",
+                  "%@ %lu %s %n", "<b>&amp;</b>", "'; DROP TABLE StoredWindow; --", "")
+
+
+class OtherPrograms(unittest.TestCase):
+    def setUp(self) -> None:
+        self.desktop = Desktop(os.environ.get("ROOK_TEST_MANAGER", "openbox"), "two")
+        self.addCleanup(self.desktop.close)
+        self.probe, self.spawner = self.desktop.probe, self.desktop.spawner()
+        self.rook = Resident(self.desktop.session)
+
+    def open_and_store(self, count: int = 1) -> None:
+        self.opened = open_windows(self.desktop, [("xterm", f"shell {index}", Frame(100 + 150 * index, 90 * index + 40,
+                                                                                    500 + index * 20, 300)) for index in range(count)])
+        self.rook.do("store-all")
+        self.stored = frames(self.desktop, self.opened)
+        scatter(self.desktop, self.opened, 5)
+
+    def restore_and_compare(self, *command: str, seconds: float = 60.0) -> None:
+        before = time.monotonic()
+        self.rook.do(*(command or ("restore-all",)))
+        self.assertLess(time.monotonic() - before, seconds)
+        self.assertEqual(frames(self.desktop, self.opened), self.stored)
+
+    def test_hostile_titles_keep_windows_apart(self) -> None:
+        spots = {}
+        for index, title in enumerate(HOSTILE_TITLES):
+            window, = self.spawner.create(title=title, geometry=f"{300 + 10 * index}x200+{50 + 40 * index}+{60 + 50 * index}")
+            spots[window] = self.probe.settled(window).frame
+        self.rook.do("store-all", "--overwrite")
+        for index, window in enumerate(spots):
+            self.probe.place(window, Frame(700 - 30 * index, 400 - 20 * index, 350, 350))
+        self.rook.do("restore-all")
+        self.assertEqual({window: self.probe.settled(window).frame for window in spots}, spots)
+        for table in ("list", "windows", "plan"):
+            output = self.rook.run(table).stdout
+            self.assertFalse(set(output) & set("\x07\x1b\r\u202e"), table)
+            self.assertLess(max(map(len, output.splitlines())), 400)
+
+    def test_five_processes_are_one_application(self) -> None:
+        self.open_and_store(5)
+        workspace, = self.rook.report("list")["workspaces"]
+        self.assertEqual([len(application["windows"]) for application in workspace["applications"]], [5])
+        self.restore_and_compare("restore-app", workspace["applications"][0]["identifier"])
+
+    def test_a_frozen_client_costs_little_and_harms_nobody(self) -> None:
+        cold, = self.spawner.create(title="cold", geometry="400x300+600+100")
+        self.open_and_store()
+        self.probe.place(cold, Frame(900, 400, 450, 350))
+        self.spawner.process.signal(signal.SIGSTOP)
+        self.restore_and_compare(seconds=8.0)
+
+    def test_windows_may_vanish_at_any_time(self) -> None:
+        windows = self.spawner.create(title="mayfly", count=40)
+        self.rook.do("store-all")
+        restoring = self.desktop.session.start("restore", [self.rook.binary, "restore-all"])
+        for window in windows:
+            self.spawner.destroy(window)
+        self.assertEqual(restoring.popen.wait(60), 0)
+        self.assertEqual(self.rook.run("status").returncode, 0)
+
+    def test_the_window_manager_dies_and_comes_back(self) -> None:
+        self.open_and_store()
+        manager = self.desktop.window_manager
+        assert manager
+        manager.stop(grace=0)
+        for command in ("restore-all", "store-all"):
+            refused = self.rook.run(command)
+            self.assertEqual(refused.returncode, 1)
+            self.assertRegex(refused.stderr, "^.*window manager.*\n$")
+        self.assertFalse(self.rook.report("status")["permission"]["trusted"])
+        manager.restart()
+        scatter(self.desktop, self.opened, 2)
+        self.restore_and_compare()
+
+    def test_a_frozen_window_manager_costs_little_and_nothing_is_lost(self) -> None:
+        manager = self.desktop.window_manager
+        assert manager
+        windows = self.spawner.create(title="ice", count=30, geometry="300x200+100+100")
+        stored = [window.frame for window in self.probe.all_settled(windows)]
+        self.rook.do("store-all")
+        for window in windows:
+            self.probe.tool("wmctrl", "-i", "-r", hex(window), "-e", "1,500,400,350,250")
+        self.probe.all_settled(windows)
+        manager.process.signal(signal.SIGSTOP)
+        before = time.monotonic()
+        self.rook.do("restore-all")
+        self.assertLess(time.monotonic() - before, 10.0)
+        manager.process.signal(signal.SIGCONT)
+        self.rook.do("restore-all")
+        self.assertEqual([window.frame for window in self.probe.all_settled(windows)], stored)
+
+    def test_a_catastrophic_pattern_ends_in_time(self) -> None:
+        self.spawner.create(title="a" * 5000 + "!", count=10)
+        self.rook.do("store-all")
+        self.rook.quit()
+        with sqlite3.connect(self.rook.store) as store:
+            store.execute("UPDATE StoredWindow SET titleRegularExpression = '(a+)+$'")
+        self.rook.start()
+        before = time.monotonic()
+        plan = self.rook.report("plan")
+        self.assertLess(time.monotonic() - before, 5.0)
+        reasons = [window["reasons"] for window in plan["applications"][0]["windows"]]
+        self.assertEqual(len(reasons), 10)
+        self.assertFalse([reason for reason in reasons if "pattern" in reason])
+
+    def test_the_x_server_dies(self) -> None:
+        process = self.rook.process
+        assert process
+        self.desktop.server.stop()
+        process.popen.wait(20)
+        self.assertIn("rook:", process.log_tail(30))
+        self.assertEqual(self.rook.run("status").returncode, 3)
+
+
+class Processes(unittest.TestCase):
+    def test_without_display_or_bus(self) -> None:
+        with WorkDirectory() as work:
+            session = Session(work)
+            rook = Resident(session, start=False)
+            self.assertEqual(rook.run("restore-all").returncode, 3)
+            started = rook.run("--headless")
+            self.assertEqual((started.returncode, started.stdout), (1, ""))
+            self.assertIn("DISPLAY", started.stderr)
+            session.environment |= {"WAYLAND_DISPLAY": "wayland-0", "DISPLAY": ":4711"}
+            self.assertIn("Wayland", rook.run("--headless").stderr)
+            del session.environment["WAYLAND_DISPLAY"]
+            self.assertEqual(rook.run("--headless").returncode, 1)
+            session.environment["DBUS_SESSION_BUS_ADDRESS"] = "unix:path=/nonexistent"
+            for arguments, status in ((("--headless",), 1), (("status",), 3), (("--help",), 0), (("--version",), 0)):
+                self.assertEqual(rook.run(*arguments).returncode, status, arguments)
+
+    def test_closed_streams_second_starts_and_signals(self) -> None:
+        with Desktop("openbox", "single") as desktop:
+            rook, session = Resident(desktop.session, start=False), desktop.session
+            process = session.start("rook", ["sh", "-c", 'exec "$0" --headless --verbose <&- >&- 2>&-', rook.binary])
+            process.wait_until(lambda: rook.run("status").returncode != 3, "the resident process", 20.0)
+            for number in range(3):
+                self.assertEqual(os.readlink(f"/proc/{process.identifier}/fd/{number}"), "/dev/null")
+            for target in ("&-", "/dev/full"):
+                lost = session.start("lost", ["sh", "-c", f'"$0" list >{target}', rook.binary])
+                self.assertEqual(lost.popen.wait(10), 1, target)
+            self.assertEqual(rook.run("--headless").returncode, 0, "a second start hands over")
+            for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
+                os.kill(process.identifier, number)
+                self.assertEqual(process.popen.wait(10), 0)
+                self.assertEqual(rook.run("quit").returncode, 3)
+                process = rook.start()
+
+
+class BrokenStores(unittest.TestCase):
+    def test_a_store_that_cannot_be_used_is_refused_and_left_alone(self) -> None:
+        with Desktop("openbox", "single") as desktop:
+            open_windows(desktop, [("xterm", "shell", Frame(100, 100, 500, 300))])
+            rook = Resident(desktop.session)
+            rook.do("store-all")
+            rook.quit()
+            good = rook.store.read_bytes()
+            newer = bytearray(good)
+            newer[60:64] = (9999).to_bytes(4, "big")  # the header's user version
+            for name, content in (("garbage", os.urandom(8192)), ("truncated", good[: len(good) // 2]),
+                                  ("newer", bytes(newer)), ("text", b"not a database at all\n" * 50)):
+                with self.subTest(name):
+                    rook.store.write_bytes(content)
+                    refused = rook.run("--headless", deadline=20)
+                    self.assertEqual(refused.returncode, 1)
+                    self.assertIn("Unable to load stored windows.", refused.stderr)
+                    self.assertEqual(rook.store.read_bytes(), content)
+            rook.store.unlink()
+            rook.store.mkdir()
+            self.assertEqual(rook.run("--headless", deadline=20).returncode, 1)
+            rook.store.rmdir()
+            rook.store.write_bytes(good)
+            rook.start()
+            self.assertEqual(rook.report("status")["counts"]["storedWindows"], 1)
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Platform/LMAccessibility.h"
+#include "support/LMFakeWorld.h"
+
+#include <map>
+#include <tuple>
+
+/// Accessibility of the fake desktop's windows. The world must outlive it.
+class LMFakeAccessibility final : public LMAccessibility {
+public:
+    explicit LMFakeAccessibility(LMFakeWorld& world) : m_world(world) {}
+
+    LMPlatformResult<LMElement> createApplication(qint64 processIdentifier) override;
+    LMPlatformResult<LMAttributeValue> copyAttributeValue(const LMElement& element,
+                                                          QLatin1String attribute) override;
+    LMPlatformResult<int> attributeValueCount(const LMElement& element,
+                                              QLatin1String attribute) override;
+    LMPlatformResult<QList<LMElement>> copyAttributeValues(const LMElement& element,
+                                                           QLatin1String attribute, int index,
+                                                           int maxValues) override;
+    LMPlatformResult<bool> isAttributeSettable(const LMElement& element,
+                                               QLatin1String attribute) override;
+    LMPlatformStatus setAttributeValue(const LMElement& element, QLatin1String attribute,
+                                       const LMAttributeValue& value) override;
+    void beginReading(const QList<LMElement>& windows) override;
+    void endReading() override;
+
+    // --- for tests ----------------------------------------------------------------------------
+    /// Makes this call fail after so many calls that go well.
+    void fail(const LMElement& element, LMFakeCall call, QLatin1String attribute,
+              LMPlatformError error, int after = 0);
+    void failCreateApplication(LMPlatformError error);
+    /// Answers reads of the attribute with this value, whatever its type.
+    void answer(const LMElement& element, QLatin1String attribute, const LMAttributeValue& value);
+    /// Takes back every failure and answer.
+    void mend();
+
+private:
+    using Key = std::tuple<LMElement, LMFakeCall, QString>;
+    struct Failure {
+        LMPlatformError error;
+        int after;
+    };
+
+    std::optional<LMPlatformError> failureOf(const LMElement& element, LMFakeCall call,
+                                             QLatin1String attribute);
+    LMPlatformResult<LMFakeWindow> readWindow(const LMElement& element);
+    LMPlatformResult<LMAttributeValue> applicationValue(const LMElement& element,
+                                                        QLatin1String attribute);
+    LMPlatformResult<QList<LMElement>> elements(const LMElement& element, QLatin1String attribute);
+    LMPlatformStatus setPosition(LMFakeWindow& window, const LMAttributeValue& value);
+    LMPlatformStatus setSize(LMFakeWindow& window, const LMAttributeValue& value);
+
+    LMFakeWorld& m_world;
+    std::map<Key, Failure> m_failures;
+    std::map<Key, LMAttributeValue> m_answers;
+    int m_readingDepth = 0;
+    std::map<qint64, LMPlatformResult<LMFakeWindow>> m_remembered; ///< By window number.
+};

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Platform/LMClock.h"
+#include "support/LMEventLog.h"
+
+/// A clock that stands still except while someone sleeps, which takes no time.
+class LMFakeClock final : public LMClock {
+public:
+    /// The log, when given, must outlive the clock.
+    explicit LMFakeClock(LMEventLog* log = nullptr) : m_log(log) {}
+
+    QDateTime now() const override { return m_now; }
+    void setNow(const QDateTime& now) { m_now = now; }
+
+    void sleep(std::chrono::microseconds duration) override {
+        m_slept += duration;
+        m_now = m_now.addMSecs(duration.count() / 1000);
+        if (m_log)
+            m_log->add(QStringLiteral("sleep %1").arg(duration.count()));
+    }
+
+    /// All sleeps together.
+    std::chrono::microseconds slept() const { return m_slept; }
+
+private:
+    LMEventLog* m_log;
+    QDateTime m_now{QDate(2024, 5, 17), QTime(12, 0)};
+    std::chrono::microseconds m_slept{0};
+};

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Platform/LMApplications.h"
+#include "Platform/LMDesktop.h"
+#include "support/LMEventLog.h"
+
+#include <QHash>
+#include <QMap>
+#include <QRectF>
+#include <QStringList>
+
+#include <optional>
+
+/// A window of the fake desktop; change its members at any time to change the window.
+struct LMFakeWindow {
+    QString title = QStringLiteral("Window"); ///< Null: the title cannot be read.
+    QRectF frame{100, 100, 640, 480};
+    QString subrole = QStringLiteral("AXStandardWindow"); ///< Null: cannot be read.
+    /// A null role belongs to a child whose role cannot be read.
+    QStringList childRoles{QStringLiteral("AXCloseButton"), QStringLiteral("AXMinimizeButton"),
+                           QStringLiteral("AXZoomButton")};
+    bool hasToolbarButton = false;
+    bool hasGrowArea = true;
+    bool hasDocument = false;
+    bool isModal = false;
+    bool isMinimized = false;
+    int layer = 0;
+    int virtualDesktop = 0; ///< Only windows of desktop 0 are on screen.
+    bool hasImage = true;
+
+    // How it resists.
+    bool hasImmutablePosition = false;
+    bool hasImmutableSize = false;
+    int ignoredSizeChanges = 0; ///< So many requests for a size succeed without effect.
+    QSizeF baseSize{0, 0};      ///< Sizes are base plus whole increments, rounded down.
+    QSizeF sizeIncrement{1, 1};
+    QSizeF minimumSize{1, 1};
+    int readsBeforeVanishing = -1; ///< The window is gone after so many reads; -1: stays.
+    bool neverAnswers = false;
+
+    QString bundleIdentifier{}; ///< The owner, filled in by the desktop.
+};
+
+/// An application of the fake desktop.
+struct LMFakeApplication {
+    QString bundleIdentifier;
+    QString localizedName;
+    QList<qint64> processIdentifiers; ///< The oldest first.
+    LMActivationPolicy activationPolicy = LMActivationPolicy::Regular;
+    QList<quint32> minimizedByHiding; ///< Window numbers.
+};
+
+/// The calls of the accessibility contract that can be made to fail.
+enum class LMFakeCall { CreateApplication, Copy, Count, CopyRange, IsSettable, Set };
+
+/// The state that the parts of the fake desktop share.
+struct LMFakeWorld {
+    QList<LMFakeApplication> applications; ///< In the order of their launch.
+    QMap<quint32, LMFakeWindow> windows;   ///< By number.
+    QList<quint32> stacking;               ///< Front to back.
+    std::optional<quint32> focusedWindow;
+
+    QList<LMScreen> screens;
+    QList<QStringList> spaces; ///< Identifiers by monitor; empty: one space on each.
+    bool screensHaveSeparateSpaces = false;
+    bool canArrangeDisplays = true;
+    bool beginsDisplayConfiguration = true;    ///< False: cannot begin.
+    bool completesDisplayConfiguration = true; ///< False: completing fails and changes nothing.
+
+    QString fileManagerIdentifier = QStringLiteral("com.apple.finder");
+    LMPermission permission{true, {}};
+    bool isConnected = true;
+    int roundTrips = 0; ///< Reads that were not answered from memory; a batch counts as one.
+    LMEventLog log;
+
+    LMFakeApplication* application(const QString& bundleIdentifier);
+    LMFakeApplication* application(qint64 processIdentifier);
+    /// The numbers of its windows, front to back.
+    QList<quint32> windowsOf(const LMFakeApplication& application) const;
+    bool isHidden(const LMFakeApplication& application) const;
+    bool isOnScreen(const LMFakeWindow& window) const;
+    void raise(quint32 number);
+    void removeWindow(quint32 number);
+    /// Gives the focus to the front window that is on screen.
+    void focusFrontWindow();
+};
