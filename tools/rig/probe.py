@@ -175,8 +175,9 @@ class Probe:
         """Moves and resizes a window so that its visible frame stands at `frame`, as far as window
         manager and size increments allow, and gives the frame that it got."""
         window = self.settled(identifier)
-        request = frame
-        for _ in range(4):  # managers differ in what a request means to client-side decorations
+        request, corrections, give_up = frame, 4, time.monotonic() + 8.0
+        while corrections and time.monotonic() < give_up:
+            before = window.frame
             client = visible_frame(request, window.shadow_extents, window.frame_extents)
             x, y = (number - (number == -1) for number in request[:2])  # to wmctrl -1 means "as it is"
             self.tool("wmctrl", "-i", "-r", hex(identifier), "-e", f"1,{x},{y},{client.width},{client.height}")
@@ -184,12 +185,16 @@ class Probe:
             got = window.frame
             if got[:2] == frame[:2]:
                 break
+            if got == before:
+                continue  # a busy manager, still placing its new window: the same once more
+            # Managers differ in what a request means to client-side decorations.
+            corrections -= 1
             request = Frame(request.x + frame.x - got.x, request.y + frame.y - got.y, request.width, request.height)
-        return got
+        return window.frame
 
     def _arrival(self, before: Window, wanted: Frame) -> Window:
         try:
-            self.wait_for(before.identifier, lambda now: now.frame == wanted or now.frame != before.frame, "moved", 0.5)
+            self.wait_for(before.identifier, lambda now: now.frame == wanted or now.frame != before.frame, "moved", 1.0)
         except RigError:
             pass  # the request changed nothing
         return self.settled(before.identifier)
