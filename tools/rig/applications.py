@@ -9,7 +9,7 @@ from dataclasses import dataclass
 from pathlib import Path
 
 from .probe import Probe, Window
-from .processes import Process, RigError, wait_until
+from .processes import Process, RigError
 from .session import Session
 
 SPAWNER_SOURCE = Path(__file__).resolve().parent.parent / "window_spawner.cpp"
@@ -57,7 +57,7 @@ class Applications:
                     return window
             return None
         try:
-            window = wait_until(opened, f"a window of {kind_name} for {name}", deadline)
+            window = self._probe.wait_until_managed(opened, f"a window of {kind_name} for {name}", deadline)
         except RigError as error:
             raise RigError(f"{error}\n{process.log_tail()}") from None
         return self._probe.settled(window.identifier, quiet=0.15)
@@ -112,7 +112,8 @@ class WindowSpawner:
                  for key, value in arguments.items()]
         identifiers = [int(word, 16) for word in self.command("create " + " ".join(words))]
         if wait:
-            wait_until(lambda: set(identifiers) <= set(self._probe.client_list()), "the spawned windows", 30.0)
+            self._probe.wait_until_managed(lambda: set(identifiers) <= set(self._probe.client_list()),
+                                           "the spawned windows", 30.0)
         return identifiers
 
     def retitle(self, identifier: int, title: str | bytes) -> None:

@@ -10,9 +10,11 @@ import subprocess
 import time
 from collections.abc import Callable, Mapping, Sequence
 from dataclasses import dataclass
-from typing import NamedTuple
+from typing import NamedTuple, TypeVar
 
 from .processes import RigError, wait_until
+
+T = TypeVar("T")
 
 PROPERTIES = ("_NET_FRAME_EXTENTS", "_GTK_FRAME_EXTENTS", "_NET_WM_PID", "_NET_WM_DESKTOP", "_NET_WM_STATE",
               "_NET_WM_WINDOW_TYPE", "WM_CLASS")
@@ -83,6 +85,19 @@ class Probe:
         """Managed windows, in the order of their mapping or from the bottom to the top."""
         name = "_NET_CLIENT_LIST_STACKING" if stacking else "_NET_CLIENT_LIST"
         return [int(word, 16) for word in re.findall(r"0x[0-9a-f]+", self.tool("xprop", "-root", "-notype", name))]
+
+    def wait_until_managed(self, condition: Callable[[], T], what: str, deadline: float) -> T:
+        """Waits for new windows. Openbox may sleep on the first one when it has read its request to be
+        shown while it was still starting: any further event wakes it."""
+        woken = time.monotonic()
+
+        def holds() -> T:
+            nonlocal woken
+            if time.monotonic() - woken > 1.0:
+                self.tool("xprop", "-root", "-f", "_ROOK_RIG", "8s", "-set", "_ROOK_RIG", "awake")
+                woken = time.monotonic()
+            return condition()
+        return wait_until(holds, what, deadline)
 
     def windows(self, wm_class: str | None = None) -> list[Window]:
         readings = (self.window(identifier) for identifier in self.client_list())
