@@ -90,7 +90,7 @@ int serve(LMDesktop& desktop, LMLogger& logger, LMUnixSignals& signals,
         return complain(LMStoredWindowsStore::versionMismatchMessageText() + QLatin1Char('\n') +
                         LMStoredWindowsStore::versionMismatchInformativeText());
 
-    LMWindowlessUserInterface userInterface(userDefaults, logger);
+    LMWindowlessUserInterface userInterface(logger);
     LMApplicationDelegate delegate(environment, store, userInterface);
     QObject::connect(&signals, &LMUnixSignals::terminationRequested, qApp,
                      [] { QCoreApplication::quit(); });

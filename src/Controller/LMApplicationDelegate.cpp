@@ -17,6 +17,9 @@ LMApplicationDelegate::LMApplicationDelegate(LMEnvironment& environment,
                                                    userInterface,   m_permissionCheck,
                                                    m_workspaceList, m_frontmostApplication},
       m_restoreCommands(m_parts), m_storeCommands(m_parts),
+      m_windowCommands(m_parts, m_storeCommands),
+      m_userCommands(m_parts, m_restoreCommands, m_storeCommands, m_windowCommands),
+      m_statusItemMenu(m_parts, m_userCommands),
       m_scriptingSupport(m_restoreCommands, m_storeCommands, m_frontmostApplication),
       m_dbusService(m_scriptingSupport, m_parts) {}
 
@@ -30,6 +33,8 @@ void LMApplicationDelegate::registerForNotifications() {
     m_environment.notificationCenter.addObserver(LMNotification::SaveWindows, this,
                                                  [this] { m_store.saveWindows(); });
     connect(&m_dbusService, &LMDBusService::quitRequested, this,
+            [this] { Q_EMIT quitRequested(QString()); });
+    connect(&m_userCommands, &LMUserCommands::quitRequested, this,
             [this] { Q_EMIT quitRequested(QString()); });
     connect(&m_dbusService, &LMDBusService::disconnected, this,
             [this] { Q_EMIT quitRequested(LMLocalized("The session bus is gone.")); });

@@ -7,7 +7,10 @@
 #include "Controller/LMPermissionCheck.h"
 #include "Controller/LMRestoreCommands.h"
 #include "Controller/LMScriptingSupport.h"
+#include "Controller/LMStatusMenu.h"
 #include "Controller/LMStoreCommands.h"
+#include "Controller/LMUserCommands.h"
+#include "Controller/LMWindowCommands.h"
 #include "Controller/LMWorkspaceList.h"
 
 #include <QObject>
@@ -26,6 +29,8 @@ public:
 
     LMDBusService& dbusService() { return m_dbusService; }
     LMScriptingSupport& scriptingSupport() { return m_scriptingSupport; }
+    LMUserCommands& userCommands() { return m_userCommands; }
+    LMStatusMenu& statusItemMenu() { return m_statusItemMenu; }
     const LMCommandParts& commandParts() const { return m_parts; }
 
     /// From here on the process serves: notifications are observed, the permission is checked.
@@ -48,6 +53,9 @@ private:
     LMCommandParts m_parts;
     LMRestoreCommands m_restoreCommands;
     LMStoreCommands m_storeCommands;
+    LMWindowCommands m_windowCommands;
+    LMUserCommands m_userCommands;
+    LMStatusMenu m_statusItemMenu;
     LMScriptingSupport m_scriptingSupport;
     LMDBusService m_dbusService;
     bool m_hasTerminated = false;

@@ -54,6 +54,14 @@ QString noActiveApplication() {
     return LMLocalized("No application is active.");
 }
 
+QString noFocusedWindow() {
+    return LMLocalized("No window has the focus.");
+}
+
+QString noWindows() {
+    return LMLocalized("This Rook was started without windows.");
+}
+
 QString notStored(const QString& applicationName) {
     return LMFormat(LMLocalized("No windows are stored for “%@” with the displays attached now."),
                     {applicationName});

@@ -61,6 +61,9 @@ namespace LMRefusal {
 QString permission(const LMPermissionCheck& check);
 QString noCurrentWorkspace();
 QString noActiveApplication();
+QString noFocusedWindow();
+/// This process shows no windows.
+QString noWindows();
 QString notStored(const QString& applicationName);
 QString alreadyStored(const QString& what);
 } // namespace LMRefusal

@@ -2,6 +2,7 @@
 #include "Controller/LMStoreCommands.h"
 
 #include "Categories/LMWorkspaceAdditions.h"
+#include "Controller/LMAlerts.h"
 #include "Controller/LMFrontmostApplication.h"
 #include "Controller/LMPermissionCheck.h"
 #include "Controller/LMUserInterface.h"
@@ -40,12 +41,12 @@ bool LMStoreCommands::canStoreActiveWindow() const {
     return hasFocusedWindow && canStoreActiveApplicationWindows();
 }
 
-std::optional<LMCommandResult> LMStoreCommands::askToReplace(const Question& question,
+std::optional<LMCommandResult> LMStoreCommands::askToReplace(const LMSuppressibleAlert& question,
                                                              bool withConfirmation) {
     if (!withConfirmation)
         return LMCommandResult::refused(LMRefusal::alreadyStored(question.message));
-    if (m_parts.userInterface.confirmReplacement(question.suppressionKey, question.message,
-                                                 question.informativeText))
+    if (LMRunReplaceConfirmation(m_parts.environment, m_parts.userInterface, question) ==
+        LMAlertAnswer::FirstButton)
         return std::nullopt;
     return LMCommandResult::refused(QString());
 }
@@ -53,8 +54,8 @@ std::optional<LMCommandResult> LMStoreCommands::askToReplace(const Question& que
 void LMStoreCommands::reportSuccess(QLatin1String suppressionKey, const QString& text,
                                     bool withConfirmation) {
     if (withConfirmation)
-        m_parts.userInterface.reportSuccess(suppressionKey, LMLocalized("Store Windows Succeeded"),
-                                            text);
+        LMRunSuccessMessage(m_parts.environment, m_parts.userInterface,
+                            {suppressionKey, LMLocalized("Store Windows Succeeded"), text});
 }
 
 LMCommandResult LMStoreCommands::storeActiveApplicationWindows(bool overwrite,
@@ -69,7 +70,7 @@ LMCommandResult LMStoreCommands::storeActiveApplicationWindows(bool overwrite,
     if (!present)
         return LMCommandResult::refused(LMRefusal::noCurrentWorkspace());
     if (!overwrite && present->storesApplication(active.bundleIdentifier)) {
-        const Question question{
+        const LMSuppressibleAlert question{
             Keys::SuppressStoreActiveApplicationAlert,
             LMFormat(LMLocalized("Stored windows already exist for “%@”. Do you want to replace "
                                  "them?"),
@@ -120,7 +121,7 @@ LMCommandResult LMStoreCommands::storeActiveWindow(bool overwrite, bool withConf
 
     if (LMStoredWindow* identical = focused.application->identicalStoredWindow(*focused.window);
         identical && !overwrite) {
-        const Question question{
+        const LMSuppressibleAlert question{
             Keys::SuppressStoreActiveWindowAlert,
             LMLocalized("An identical stored window already exists. Do you want to replace it?"),
             LMFormat(LMLocalized("The stored window labelled “%@” will be replaced with the active "
@@ -151,7 +152,7 @@ LMStoreCommands::findFocusedWindow(const std::optional<LMRunningApplication>& ac
         workspace->applicationForBundleIdentifier(active->bundleIdentifier);
     LMWindow* window = LMWindow::focusedWindow(m_parts.store.managedObjectContext());
     if (!window)
-        return {nullptr, nullptr, LMLocalized("No window has the focus.")};
+        return {nullptr, nullptr, LMRefusal::noFocusedWindow()};
     if (!application)
         application = addApplication(*workspace, *active);
     if (!application)
@@ -169,7 +170,7 @@ LMCommandResult LMStoreCommands::storeAllWindows(bool overwrite, bool withConfir
     if (!present)
         return LMCommandResult::refused(LMRefusal::noCurrentWorkspace());
     if (!overwrite && !present->applications().empty()) {
-        const Question question{
+        const LMSuppressibleAlert question{
             Keys::SuppressStoreAllAlert,
             LMLocalized("Stored windows already exist. Do you want to replace them?"),
             LMLocalized("Previously stored windows will be replaced with the windows of the "

@@ -6,6 +6,7 @@
 class LMApplication;
 class LMWindow;
 class LMWorkspace;
+struct LMSuppressibleAlert;
 
 /// The commands that remember windows. Each takes whether to replace what is stored without asking,
 /// and whether somebody can be asked: without confirmation nothing is replaced unless told to, and
@@ -22,13 +23,9 @@ public:
     LMCommandResult storeAllWindows(bool overwrite, bool withConfirmation);
 
 private:
-    struct Question {
-        QLatin1String suppressionKey;
-        QString message;
-        QString informativeText;
-    };
     /// None when the replacement may go ahead, else the command's answer.
-    std::optional<LMCommandResult> askToReplace(const Question& question, bool withConfirmation);
+    std::optional<LMCommandResult> askToReplace(const LMSuppressibleAlert& question,
+                                                bool withConfirmation);
     void reportSuccess(QLatin1String suppressionKey, const QString& text, bool withConfirmation);
     /// The focused window and the application it is stored with (made when there is none yet), or
     /// why there is none.

@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Controller/LMAlert.h"
 #include "Model/LMProgress.h"
 
 #include <QString>
+
+class LMStatusMenu;
+class LMWindow;
+class LMWorkspace;
 
 /// The window that shows how far a long operation is.
 class LMProgressWindow : public LMProgress {
@@ -15,24 +20,38 @@ public:
     virtual void close() = 0;
 };
 
-/// What the controller asks of whatever faces the user: questions, messages, progress.
-///
-/// The widgets implement it; without them LMWindowlessUserInterface does.
+/// What the controller asks of whatever faces the user. The widgets implement it; without them
+/// LMWindowlessUserInterface does. Main thread only.
 class LMUserInterface {
 public:
     virtual ~LMUserInterface() = default;
 
+    /// False for a process that never shows a window: what is meant to be seen is refused then.
+    virtual bool canShowWindows() const = 0;
+
     virtual LMProgressWindow& progressWindow() = 0;
 
-    /// Asks whether something stored shall be replaced; true is "Replace". With the suppression
-    /// key (a user default) set, answers true without asking. Ticking the suppression box sets the
-    /// key, whichever button was pressed.
-    virtual bool confirmReplacement(const QString& suppressionKey, const QString& message,
-                                    const QString& informativeText) = 0;
+    /// Shows a modal alert in front of all applications and waits for the answer (nested event
+    /// loop).
+    virtual LMAlertAnswer runModal(const LMAlert& alert) = 0;
+    /// Whether an alert or another modal window is open.
+    virtual bool isModalWindowOpen() const = 0;
+    /// Brings this program to the front, whatever is active now.
+    virtual void activateIgnoringOtherApplications() = 0;
 
-    /// Says that something succeeded, unless the suppression key is set.
-    virtual void reportSuccess(const QString& suppressionKey, const QString& message,
-                               const QString& informativeText) = 0;
+    /// Shows the status icon with the menu; the menu outlives the icon. Waits for a tray that is
+    /// not there yet.
+    virtual void showStatusItem(LMStatusMenu& menu) = 0;
+    /// Does nothing when there is no icon.
+    virtual void removeStatusItem() = 0;
+    /// Pops the menu up at the pointer. Returns at once.
+    virtual void displayMenuAtCursor(LMStatusMenu& menu) = 0;
+
+    virtual void showStoredWindowPicker(LMWorkspace& workspace, LMWindow& focusedWindow) = 0;
+    virtual void closeStoredWindowPicker() = 0;
+    virtual void showStoredWindowsList() = 0;
+    virtual void showPreferencesWindow() = 0;
+    virtual void showAboutPanel() = 0;
 
     /// The store has changed: whatever lists show it read it again.
     virtual void reloadTableViews() = 0;

@@ -4,19 +4,27 @@
 #include "Controller/LMUserInterface.h"
 
 class LMLogger;
-class LMUserDefaults;
 
-/// The user interface of a process without windows: it logs what it would show, and it never
-/// confirms a replacement that the user has not allowed beforehand.
+/// The user interface of a process without windows: it logs what it would show. An alert is
+/// answered with its last button, the one that declines: nothing is replaced unless the user has
+/// allowed it beforehand.
 class LMWindowlessUserInterface final : public LMUserInterface {
 public:
-    LMWindowlessUserInterface(const LMUserDefaults& userDefaults, const LMLogger& logger);
+    explicit LMWindowlessUserInterface(const LMLogger& logger);
 
+    bool canShowWindows() const override { return false; }
     LMProgressWindow& progressWindow() override { return m_progress; }
-    bool confirmReplacement(const QString& suppressionKey, const QString& message,
-                            const QString& informativeText) override;
-    void reportSuccess(const QString& suppressionKey, const QString& message,
-                       const QString& informativeText) override;
+    LMAlertAnswer runModal(const LMAlert& alert) override;
+    bool isModalWindowOpen() const override { return false; }
+    void activateIgnoringOtherApplications() override {}
+    void showStatusItem(LMStatusMenu&) override {}
+    void removeStatusItem() override {}
+    void displayMenuAtCursor(LMStatusMenu&) override {}
+    void showStoredWindowPicker(LMWorkspace&, LMWindow&) override {}
+    void closeStoredWindowPicker() override {}
+    void showStoredWindowsList() override {}
+    void showPreferencesWindow() override {}
+    void showAboutPanel() override {}
     void reloadTableViews() override {}
 
 private:
@@ -35,7 +43,6 @@ private:
         QString m_label;
     };
 
-    const LMUserDefaults& m_userDefaults;
     const LMLogger& m_logger;
     Progress m_progress;
 };

@@ -13,15 +13,24 @@
 class ScriptedUserInterface final : public LMUserInterface, public LMProgressWindow {
 public:
     LMProgressWindow& progressWindow() override { return *this; }
-    bool confirmReplacement(const QString& key, const QString& message,
-                            const QString& informativeText) override {
-        asked.append(QStringList{key, message, informativeText}.join(QLatin1Char('|')));
-        return confirms;
+    LMAlertAnswer runModal(const LMAlert& alert) override {
+        alerts.append(alert.message + QLatin1Char('|') + alert.informativeText);
+        return answer;
     }
-    void reportSuccess(const QString& key, const QString&, const QString& text) override {
-        reported.append(key + QLatin1Char('|') + text);
+    bool canShowWindows() const override { return true; }
+    bool isModalWindowOpen() const override { return isModal; }
+    void activateIgnoringOtherApplications() override {}
+    void showStatusItem(LMStatusMenu&) override { calls.append(QStringLiteral("icon")); }
+    void removeStatusItem() override { calls.append(QStringLiteral("no icon")); }
+    void displayMenuAtCursor(LMStatusMenu&) override { calls.append(QStringLiteral("menu")); }
+    void showStoredWindowPicker(LMWorkspace&, LMWindow&) override {
+        calls.append(QStringLiteral("picker"));
     }
-    void reloadTableViews() override {}
+    void closeStoredWindowPicker() override { calls.append(QStringLiteral("no picker")); }
+    void showStoredWindowsList() override { calls.append(QStringLiteral("list")); }
+    void showPreferencesWindow() override { calls.append(QStringLiteral("preferences")); }
+    void showAboutPanel() override { calls.append(QStringLiteral("about")); }
+    void reloadTableViews() override { calls.append(QStringLiteral("reload")); }
     void setLabel(const QString& label) override { labels.append(label); }
     void setIndeterminate(bool) override {}
     void showWindow() override { ++shown; }
@@ -29,8 +38,9 @@ public:
     void setMaxValue(double steps) override { maxValue = steps; }
     void increment(const LMWorkspace*) override { value += 1; }
 
-    bool confirms = false;
-    QStringList asked, reported, labels;
+    LMAlertAnswer answer{LMAlertAnswer::FirstButton + 1, false}; ///< To every alert.
+    bool isModal = false;
+    QStringList alerts, calls, labels;
     int shown = 0;
     double maxValue = 0, value = 0;
 };

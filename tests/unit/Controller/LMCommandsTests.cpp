@@ -38,8 +38,7 @@ TEST_F(ControllerTest, NothingIsReplacedSilently) {
         EXPECT_TRUE(refused.refusal.contains(QString::fromUtf8(row.asks))) << row.code;
         EXPECT_TRUE(perform(row.code, Overwrite).isDone) << row.code;
     }
-    EXPECT_TRUE(userInterface.asked.isEmpty()) << "a script must never be asked";
-    EXPECT_TRUE(userInterface.reported.isEmpty());
+    EXPECT_TRUE(userInterface.alerts.isEmpty()) << "a script must never be asked or told";
     const auto workspaces = store.managedObjectContext().objects<LMWorkspace>();
     ASSERT_EQ(workspaces.size(), 1U);
     const LMApplication* application =
@@ -51,23 +50,33 @@ TEST_F(ControllerTest, QuestionsDecide) {
     LMStoreCommands commands(delegate.commandParts());
     perform("SAll");
     EXPECT_FALSE(commands.storeAllWindows(false, true).isDone);
-    userInterface.confirms = true;
+    userInterface.answer = {};
     EXPECT_TRUE(commands.storeAllWindows(false, true).isDone);
     EXPECT_TRUE(commands.storeActiveApplicationWindows(false, true).isDone);
     EXPECT_TRUE(commands.storeActiveWindow(false, true).isDone);
-    EXPECT_EQ(userInterface.asked.size(), 4);
+    ASSERT_EQ(userInterface.alerts.size(), 7); // Four questions, three messages.
+    EXPECT_EQ(userInterface.alerts[5],
+              QStringLiteral("An identical stored window already exists. Do you want to replace "
+                             "it?|The stored window labelled “Draft” will be replaced with the "
+                             "active window."));
     EXPECT_EQ(
-        userInterface.asked.last(),
-        QStringLiteral("SuppressStoreActiveWindowAlert|An identical stored window already "
-                       "exists. Do you want to replace it?|The stored window labelled “Draft” "
-                       "will be replaced with the active window."));
-    EXPECT_EQ(userInterface.reported,
-              (QStringList{QStringLiteral("SuppressStoreAllSuccess|Rook has successfully stored "
-                                          "windows for all applications."),
-                           QStringLiteral("SuppressStoreActiveApplicationSuccess|Rook has "
-                                          "successfully stored windows for Editor."),
-                           QStringLiteral("SuppressStoreActiveWindowSuccess|Rook has successfully "
-                                          "stored the active window.")}));
+        userInterface.alerts[4],
+        QStringLiteral("Store Windows Succeeded|Rook has successfully stored windows for Editor."));
+}
+
+TEST_F(ControllerTest, TickingTheBoxAndCancellingSuppressesTheQuestionFromThenOn) {
+    LMStoreCommands commands(delegate.commandParts());
+    perform("SAll");
+    int announced = 0;
+    test.notificationCenter.addObserver(LMNotification::SupressedAlertsChanged, &delegate,
+                                        [&] { ++announced; });
+    userInterface.answer.isSuppressionTicked = true;
+    EXPECT_FALSE(commands.storeActiveWindow(false, true).isDone);
+    EXPECT_EQ(announced, 1);
+    EXPECT_TRUE(test.userDefaults.boolForKey(LMUserDefaultsKeys::SuppressStoreActiveWindowAlert));
+    EXPECT_TRUE(commands.storeActiveWindow(false, true).isDone);
+    EXPECT_TRUE(commands.storeActiveWindow(false, true).isDone);
+    EXPECT_EQ(userInterface.alerts.size(), 2) << "one question, one message";
 }
 
 TEST_F(ControllerTest, CommandsThatCannotRunSayWhy) {

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "Controller/LMWindowCommands.h"
+
+#include "Controller/LMFrontmostApplication.h"
+#include "Controller/LMPermissionCheck.h"
+#include "Controller/LMStoreCommands.h"
+#include "Controller/LMUserInterface.h"
+#include "Controller/LMWorkspaceList.h"
+#include "Model/LMStoredWindowsStore.h"
+#include "Model/LMWindow.h"
+#include "Model/LMWorkspace.h"
+
+bool LMWindowCommands::canLinkActiveWindow() const {
+    m_parts.frontmostApplication.updateFrontmostApplication();
+    const auto& active = m_parts.frontmostApplication.frontmostApplication();
+    const LMWorkspace* workspace = m_parts.workspaceList.currentWorkspace();
+    return active && workspace && workspace->storesApplication(active->bundleIdentifier) &&
+           m_storeCommands.canStoreActiveWindow();
+}
+
+LMCommandResult LMWindowCommands::linkActiveWindow() {
+    LMUserInterface& userInterface = m_parts.userInterface;
+    if (!userInterface.canShowWindows())
+        return LMCommandResult::refused(LMRefusal::noWindows());
+    if (!m_parts.permissionCheck.checkAccessibilityEnabled())
+        return LMCommandResult::refused(LMRefusal::permission(m_parts.permissionCheck));
+    LMWorkspace* workspace = m_parts.workspaceList.currentWorkspaceAddingIfNecessary();
+    if (!workspace)
+        return LMCommandResult::refused(LMRefusal::noCurrentWorkspace());
+    LMWindow* window = LMWindow::focusedWindow(m_parts.store.managedObjectContext());
+    if (!window) {
+        userInterface.closeStoredWindowPicker();
+        return LMCommandResult::refused(LMRefusal::noFocusedWindow());
+    }
+    userInterface.showStoredWindowPicker(*workspace, *window);
+    return LMCommandResult::done();
+}
+
+LMCommandResult LMWindowCommands::showStoredWindowsEditor() {
+    m_parts.userInterface.reloadTableViews();
+    return show(&LMUserInterface::showStoredWindowsList);
+}
+
+LMCommandResult LMWindowCommands::showPreferencesWindow() {
+    return show(&LMUserInterface::showPreferencesWindow);
+}
+
+LMCommandResult LMWindowCommands::showAboutPanel() {
+    return show(&LMUserInterface::showAboutPanel);
+}
+
+LMCommandResult LMWindowCommands::show(void (LMUserInterface::*window)()) {
+    if (!m_parts.userInterface.canShowWindows())
+        return LMCommandResult::refused(LMRefusal::noWindows());
+    (m_parts.userInterface.*window)();
+    return LMCommandResult::done();
+}
