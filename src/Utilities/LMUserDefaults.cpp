@@ -4,11 +4,14 @@
 #include "Utilities/LMBaseDirectories.h"
 #include "Utilities/LMDefaultsValue.h"
 #include "Utilities/LMLogger.h"
+#include "Utilities/LMSettingsWatch.h"
 
 #include <utility>
 
 LMUserDefaults::LMUserDefaults(QString filePath, const LMLogger& logger)
     : m_logger(&logger), m_file(std::move(filePath), logger), m_values(m_file.load()) {}
+
+LMUserDefaults::~LMUserDefaults() = default;
 
 QString LMUserDefaults::defaultFilePath() {
     const QString directory = LMConfigHomeDirectory();
@@ -77,19 +80,55 @@ void LMUserDefaults::removeObject(const QString& key) {
     save();
 }
 
-void LMUserDefaults::save() {
-    // The file may have been edited since it was read.
-    m_values = m_file.load();
+LMUserDefaults::Observation LMUserDefaults::addObserver(const QString& key, Observer observer) {
+    auto observed = std::make_shared<const ObservedKey>(ObservedKey{key, std::move(observer)});
+    m_observers.push_back(observed);
+    return observed;
+}
+
+void LMUserDefaults::reload() {
+    take(valuesOfFile());
+}
+
+void LMUserDefaults::followFile() {
+    if (!m_watch)
+        m_watch = std::make_unique<LMSettingsWatch>(m_file.path(), [this] { reload(); });
+}
+
+/// What the file says now, and what it should say but could not be told.
+QVariantMap LMUserDefaults::valuesOfFile() {
+    QVariantMap values = m_file.load();
     for (auto change = m_unsaved.constBegin(); change != m_unsaved.constEnd(); ++change) {
         if (change->isValid())
-            m_values.insert(change.key(), *change);
+            values.insert(change.key(), *change);
         else
-            m_values.remove(change.key());
+            values.remove(change.key());
     }
-    if (const LMResult<void> saved = m_file.save(m_values)) {
+    return values;
+}
+
+/// Tells the observers what is new. They may set values, and add and drop observers, in turn.
+void LMUserDefaults::take(const QVariantMap& values) {
+    const QVariantMap before = std::exchange(m_values, values);
+    std::erase_if(m_observers, [](const auto& observer) { return observer.expired(); });
+    const auto called = m_observers;
+    for (const auto& observer : called) {
+        const auto observed = observer.lock();
+        if (observed && before.value(observed->key) != values.value(observed->key))
+            observed->observer();
+    }
+}
+
+void LMUserDefaults::save() {
+    // The file may have been edited since it was read.
+    const QVariantMap values = valuesOfFile();
+    if (const LMResult<void> saved = m_file.save(values)) {
         m_unsaved.clear();
+        if (m_watch)
+            m_watch->renew();
     } else {
         m_logger->error(QStringLiteral("Unable to write settings file \"%@\": %@"),
                         {m_file.path(), saved.error()});
     }
+    take(values);
 }

@@ -9,7 +9,12 @@
 #include <QVariant>
 #include <QVariantMap>
 
+#include <functional>
+#include <memory>
+#include <vector>
+
 class LMLogger;
+class LMSettingsWatch;
 
 /// The user's settings, kept in one INI file, above a registration domain that answers for keys
 /// the user never set.
@@ -20,8 +25,14 @@ class LMLogger;
 /// fails it is logged, the value holds for the life of the object, and the next change tries again.
 class LMUserDefaults {
 public:
+    using Observer = std::function<void()>;
+    /// Keeps an observer registered for as long as it lives. It may outlive the user defaults.
+    using Observation = std::shared_ptr<const void>;
+
     /// The logger must outlive this object. The file need not exist.
     LMUserDefaults(QString filePath, const LMLogger& logger);
+    ~LMUserDefaults();
+    Q_DISABLE_COPY_MOVE(LMUserDefaults)
 
     /// The settings file of the user who runs the program, below $XDG_CONFIG_HOME; null without a
     /// home directory, and then nothing is kept.
@@ -53,7 +64,26 @@ public:
     void setObject(const QString& key, const QVariant& value);
     void removeObject(const QString& key);
 
+    /// Calls the observer whenever the user's value of the key has changed: set or removed here, or
+    /// found changed in the file. By then the new value can be read. It may be called when only the
+    /// form has changed (a number has become text).
+    [[nodiscard]] Observation addObserver(const QString& key, Observer observer);
+
+    /// Takes over what others have changed in the file.
+    void reload();
+
+    /// Takes over what others change in the file as soon as they do, while the thread runs its
+    /// event loop. Costs nothing while nobody changes it.
+    void followFile();
+
 private:
+    struct ObservedKey {
+        QString key;
+        Observer observer;
+    };
+
+    QVariantMap valuesOfFile();
+    void take(const QVariantMap& values);
     void save();
     template <class Value, class Read>
     Value read(const QString& key, Read readValue) const;
@@ -63,4 +93,6 @@ private:
     QVariantMap m_values;  ///< The user's, as in the file or just set.
     QVariantMap m_unsaved; ///< Changes that no write took yet; invalid for a removed key.
     QVariantMap m_registered;
+    std::vector<std::weak_ptr<const ObservedKey>> m_observers;
+    std::unique_ptr<LMSettingsWatch> m_watch;
 };
