@@ -3,6 +3,7 @@
 
 #include "Platform/LMAccessibility.h"
 #include "Platform/LMApplications.h"
+#include "Platform/LMHotKeys.h"
 #include "Platform/LMScreens.h"
 #include "Platform/LMWindowServer.h"
 
@@ -35,6 +36,7 @@ public:
     virtual LMWindowServer& windowServer() = 0;
     virtual LMScreens& screens() = 0;
     virtual LMApplications& applications() = 0;
+    virtual LMHotKeys& hotKeys() = 0;
 
     /// Asked afresh on every call: a window manager may come and go.
     virtual LMPermission checkPermission() = 0;

@@ -12,9 +12,11 @@ TEST_P(DesktopContract, SaysWhatItIsAndCanDo) {
     EXPECT_TRUE(permission.isTrusted) << permission.missing.join(u'\n').toStdString();
     EXPECT_TRUE(permission.missing.isEmpty());
     const auto capabilities = desktop().capabilities();
-    ASSERT_EQ(capabilities.size(), 1);
+    ASSERT_EQ(capabilities.size(), 2);
     EXPECT_EQ(capabilities[0].name, u"arrangeDisplays"_qs);
     EXPECT_EQ(capabilities[0].isSupported, desktop().screens().canArrangeDisplays());
+    EXPECT_EQ(capabilities[1].name, u"hotKeys"_qs);
+    EXPECT_EQ(capabilities[1].isSupported, desktop().hotKeys().isAvailable());
 }
 
 TEST_P(DesktopContract, DescribesTheWindowsOnScreenFrontToBack) {

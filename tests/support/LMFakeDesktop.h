@@ -4,6 +4,7 @@
 #include "Platform/LMDesktop.h"
 #include "support/LMFakeAccessibility.h"
 #include "support/LMFakeApplications.h"
+#include "support/LMFakeHotKeys.h"
 #include "support/LMFakeScreens.h"
 #include "support/LMFakeWindowServer.h"
 #include "support/LMFakeWorld.h"
@@ -27,6 +28,7 @@ public:
     LMFakeWindowServer& windowServer() override { return m_windowServer; }
     LMFakeScreens& screens() override { return m_screens; }
     LMFakeApplications& applications() override { return m_applications; }
+    LMFakeHotKeys& hotKeys() override { return m_hotKeys; }
     LMPermission checkPermission() override;
     QList<LMCapability> capabilities() const override;
     QString windowManagerName() const override;
@@ -72,6 +74,7 @@ private:
     LMFakeWindowServer m_windowServer;
     LMFakeScreens m_screens;
     LMFakeApplications m_applications;
+    LMFakeHotKeys m_hotKeys;
     quint32 m_lastWindowNumber = 0;
     qint64 m_lastProcessIdentifier = 1000;
 };

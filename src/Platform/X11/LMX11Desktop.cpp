@@ -6,6 +6,7 @@
 #include "Platform/X11/LMX11ApplicationIndex.h"
 #include "Platform/X11/LMX11Applications.h"
 #include "Platform/X11/LMX11Connection.h"
+#include "Platform/X11/LMX11HotKeys.h"
 #include "Platform/X11/LMX11Screens.h"
 #include "Platform/X11/LMX11WindowManager.h"
 #include "Platform/X11/LMX11WindowServer.h"
@@ -16,7 +17,7 @@ struct LMX11Desktop::Parts {
         : connection(std::move(opened)), desktopEntries(), windowManager(*connection),
           index(*connection, desktopEntries), accessibility(*connection, index, windowManager),
           windowServer(*connection, index), screens(*connection),
-          applications(*connection, index, desktopEntries, windowManager) {}
+          applications(*connection, index, desktopEntries, windowManager), hotKeys(*connection) {}
 
     std::unique_ptr<LMX11Connection> connection;
     LMDesktopEntries desktopEntries;
@@ -26,6 +27,7 @@ struct LMX11Desktop::Parts {
     LMX11WindowServer windowServer;
     LMX11Screens screens;
     LMX11Applications applications;
+    LMX11HotKeys hotKeys;
 };
 
 std::unique_ptr<LMX11Desktop> LMX11Desktop::open(const LMLogger& logger, QString* reason) {
@@ -63,12 +65,17 @@ LMApplications& LMX11Desktop::applications() {
     return d->applications;
 }
 
+LMHotKeys& LMX11Desktop::hotKeys() {
+    return d->hotKeys;
+}
+
 LMPermission LMX11Desktop::checkPermission() {
     return d->windowManager.checkPermission();
 }
 
 QList<LMCapability> LMX11Desktop::capabilities() const {
-    return {{QStringLiteral("arrangeDisplays"), d->screens.canArrangeDisplays()}};
+    return {{QStringLiteral("arrangeDisplays"), d->screens.canArrangeDisplays()},
+            {QStringLiteral("hotKeys"), d->hotKeys.isAvailable()}};
 }
 
 QString LMX11Desktop::windowManagerName() const {

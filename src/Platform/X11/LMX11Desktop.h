@@ -22,6 +22,7 @@ public:
     LMWindowServer& windowServer() override;
     LMScreens& screens() override;
     LMApplications& applications() override;
+    LMHotKeys& hotKeys() override;
 
     /// Trusted when the server answers and a window manager runs that supports what moving windows
     /// needs.
