@@ -1,23 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "Categories/LMSpaces.h"
 
-#include "unit/Categories/CategoriesTest.h"
+#include "unit/DesktopTest.h"
 
-using Spaces = CategoriesTest;
-
-TEST_F(Spaces, AreInUseWhenAMonitorHasSeveral) {
-    const QString one = u"1"_qs, two = u"2"_qs, dashboard = u"dashboard"_qs;
-    // clang-format off
-    const std::pair<QList<QStringList>, bool> cases[] = {{{}, false}, {{{}}, false}, {{{one}, {two}}, false}, {{{one, dashboard}}, false}, {{{dashboard, one, two}}, true}, {{{one}, {one, two}}, true}};
-    // clang-format on
+TEST_F(DesktopTest, SpacesAreInUseWhenAMonitorHasSeveral) {
+    const QString one = u"1"_s, two = u"2"_s, dashboard = u"dashboard"_s;
+    const std::pair<QList<QStringList>, bool> cases[] = {
+        {{}, false},
+        {{{}}, false},
+        {{{one}, {two}}, false},
+        {{{one, dashboard}}, false},
+        {{{dashboard, one, two}}, true},
+        {{{one}, {one, two}}, true},
+    };
     for (const auto& [spaces, areInUse] : cases) {
         desktop.world().spaces = spaces;
         EXPECT_EQ(LMSpacesInUse(environment), areInUse);
     }
-    desktop.world().spaces = {};
-    userDefaults.setObject(u"EnableSpacesSupport"_qs, true);
-    EXPECT_TRUE(LMSpacesInUse(environment));
-    userDefaults.setObject(u"DisableSpacesSupport"_qs, true);
-    desktop.world().spaces = {{u"1"_qs, u"2"_qs}};
+    defaults.setObject(Keys::DisableSpacesSupport, true);
     EXPECT_FALSE(LMSpacesInUse(environment));
+    defaults.setObject(Keys::EnableSpacesSupport, true);
+    EXPECT_FALSE(LMSpacesInUse(environment)) << "disabling wins";
+    defaults.setObject(Keys::DisableSpacesSupport, false);
+    desktop.world().spaces = {};
+    EXPECT_TRUE(LMSpacesInUse(environment));
 }

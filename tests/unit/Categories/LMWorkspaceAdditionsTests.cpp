@@ -1,66 +1,54 @@
 // SPDX-License-Identifier: MIT
 #include "Categories/LMWorkspaceAdditions.h"
 
-#include "unit/Categories/CategoriesTest.h"
+#include "unit/DesktopTest.h"
 
 namespace {
 
-const QString finder = u"com.apple.finder"_qs;
-const QString editor = u"org.editor"_qs;
-const QString mail = u"org.mail"_qs;
-const QString tray = u"org.tray"_qs;
-const QString divvy = u"com.mizage.divvy"_qs;
+const QString finder = u"com.apple.finder"_s;
+const QString editor = u"editor"_s;
+const QString mail = u"mail"_s;
+const QString tray = u"tray"_s;
 
-QStringList identifiers(const QList<LMRunningApplication>& applications) {
+QString identifiers(const QList<LMRunningApplication>& applications) {
     QStringList result;
     for (const LMRunningApplication& application : applications)
         result.append(application.bundleIdentifier);
-    return result;
+    return result.join(u", "_s);
 }
 
-class WorkspaceAdditions : public CategoriesTest {
+class WorkspaceAdditions : public DesktopTest {
 protected:
+    using W = LMWorkspaceAdditions;
+
     void run(const QString& identifier, bool isHidden = false,
              LMActivationPolicy policy = LMActivationPolicy::Regular) {
-        const qint64 process = desktop.addApplication(identifier, {}, {}, policy);
-        desktop.addWindow(identifier);
-        if (isHidden)
-            desktop.applications().hide(process);
-        desktop.log().clear();
+        launch(identifier, {LMFakeWindow()}, policy);
+        setHidden(identifier, isHidden);
+    }
+    /// What happens in the function.
+    template <class... Arguments>
+    QString after(void (W::*function)(Arguments...), const std::decay_t<Arguments>&... arguments) {
+        (workspace.*function)(arguments...);
+        return events().replace(finder, u"finder"_s);
     }
 
-    QString takeEvents() {
-        const QString events = desktop.log().events().join(u", "_qs).replace(finder, u"finder"_qs);
-        desktop.log().clear();
-        return events;
-    }
-
-    LMWorkspaceAdditions workspace{environment};
+    W workspace{environment};
 };
 
 } // namespace
 
 TEST_F(WorkspaceAdditions, NameTheActiveApplication) {
+    using Role = LMKnownApplications::Role;
+    test.knownApplications = LMKnownApplications({{Role::NeverActive, {tray}}});
     run(editor);
-    run(divvy);
+    run(tray);
     EXPECT_FALSE(workspace.runningApplication());
     desktop.makeActive(editor);
     ASSERT_TRUE(workspace.runningApplication());
     EXPECT_EQ(workspace.runningApplication()->bundleIdentifier, editor);
-    desktop.makeActive(divvy);
+    desktop.makeActive(tray);
     EXPECT_FALSE(workspace.runningApplication());
-}
-
-TEST_F(WorkspaceAdditions, ListHiddenAndVisibleRegularApplications) {
-    run(mail, true);
-    run(finder);
-    run(tray, false, LMActivationPolicy::Accessory);
-    run(editor);
-    EXPECT_EQ(identifiers(workspace.hiddenApplications()), QStringList({mail}));
-    EXPECT_EQ(identifiers(workspace.unhiddenApplications()), QStringList({editor}));
-    desktop.world().fileManagerIdentifier.clear();
-    EXPECT_FALSE(workspace.finderRunningApplication());
-    EXPECT_EQ(identifiers(workspace.unhiddenApplications()), QStringList({finder, editor}));
 }
 
 TEST_F(WorkspaceAdditions, HideVisibleApplicationsAndShowThemOnce) {
@@ -68,59 +56,47 @@ TEST_F(WorkspaceAdditions, HideVisibleApplicationsAndShowThemOnce) {
     run(editor);
     run(mail, true);
     run(tray, false, LMActivationPolicy::Accessory);
-    workspace.storeAndHideApps();
-    EXPECT_EQ(takeEvents(), u"hide org.editor"_qs);
-    workspace.restoreUnhiddenApps();
-    EXPECT_EQ(takeEvents(), u"unhide org.editor"_qs);
-    workspace.restoreUnhiddenApps();
-    EXPECT_TRUE(takeEvents().isEmpty());
-
+    EXPECT_EQ(identifiers(workspace.hiddenApplications()), mail);
+    EXPECT_EQ(after(&W::storeAndHideApps, {}), u"hide editor"_s);
+    EXPECT_EQ(after(&W::restoreUnhiddenApps), u"unhide editor"_s);
+    EXPECT_EQ(after(&W::restoreUnhiddenApps), QString());
     // With a list, whatever their policy and state, in platform order.
-    workspace.storeAndHideApps(QStringList{tray, finder, u"org.gone"_qs});
-    EXPECT_EQ(takeEvents(), u"hide finder, hide org.tray"_qs);
+    EXPECT_EQ(after(&W::storeAndHideApps, QStringList{tray, finder, u"gone"_s}),
+              u"hide finder, hide tray"_s);
 }
 
 TEST_F(WorkspaceAdditions, ShowHiddenApplicationsAndHideThemAgain) {
     run(editor);
     run(mail, true);
-    workspace.storeAndUnhideApps();
-    EXPECT_EQ(takeEvents(), u"unhide org.mail"_qs);
+    EXPECT_EQ(after(&W::storeAndUnhideApps, {}), u"unhide mail"_s);
     desktop.removeApplication(mail);
-    workspace.restoreHiddenApps();
-    EXPECT_TRUE(takeEvents().isEmpty()); // It has quit.
-    workspace.storeAndUnhideApps(QStringList{editor});
-    takeEvents();
-    workspace.restoreHiddenApps();
-    EXPECT_EQ(takeEvents(), u"hide org.editor"_qs);
+    EXPECT_EQ(after(&W::restoreHiddenApps), QString()); // It has quit.
+    after(&W::storeAndUnhideApps, QStringList{editor});
+    EXPECT_EQ(after(&W::restoreHiddenApps), u"hide editor"_s);
 }
 
 TEST_F(WorkspaceAdditions, HidingFinderShowsAnotherApplicationFirstOnlyWhenNoneIsVisible) {
-    workspace.hideFinder(); // Nothing runs: no harm.
-    workspace.unhideFinder();
+    for (auto harmless : {&W::hideFinder, &W::unhideFinder, &W::restoreFinderHiddenStatus})
+        EXPECT_EQ(after(harmless), QString()); // Nothing runs.
     run(finder);
     run(mail, true);
     run(editor, true);
-    workspace.hideFinder();
-    EXPECT_EQ(takeEvents(), u"unhide org.mail, sleep 1000000, hide finder"_qs);
-    workspace.unhideFinder();
-    EXPECT_EQ(takeEvents(), u"unhide finder, hide org.mail"_qs);
-    desktop.applications().unhide(desktop.world().application(editor)->processIdentifiers[0]);
-    takeEvents();
-    workspace.hideFinder();
-    EXPECT_EQ(takeEvents(), u"hide finder"_qs);
-    workspace.unhideFinder();
-    EXPECT_EQ(takeEvents(), u"unhide finder"_qs);
+    EXPECT_EQ(after(&W::hideFinder), u"unhide mail, sleep 1000000, hide finder"_s);
+    EXPECT_EQ(after(&W::unhideFinder), u"unhide finder, hide mail"_s);
+    setHidden(editor, false);
+    EXPECT_EQ(after(&W::hideFinder), u"hide finder"_s);
+    EXPECT_EQ(after(&W::unhideFinder), u"unhide finder"_s);
+    desktop.world().fileManagerIdentifier.clear();
+    EXPECT_FALSE(workspace.finderRunningApplication());
+    EXPECT_EQ(identifiers(workspace.unhiddenApplications()), u"com.apple.finder, editor"_s);
 }
 
 TEST_F(WorkspaceAdditions, FinderReturnsToItsRememberedState) {
-    workspace.restoreFinderHiddenStatus(); // It does not run: no harm.
     run(finder, true);
     workspace.storeFinderHiddenStatus();
     workspace.unhideFinder();
-    takeEvents();
-    workspace.restoreFinderHiddenStatus();
-    EXPECT_EQ(takeEvents(), u"hide finder"_qs);
+    events();
+    EXPECT_EQ(after(&W::restoreFinderHiddenStatus), u"hide finder"_s);
     workspace.setFinderHiddenStatus(false);
-    workspace.restoreFinderHiddenStatus();
-    EXPECT_EQ(takeEvents(), u"unhide finder"_qs);
+    EXPECT_EQ(after(&W::restoreFinderHiddenStatus), u"unhide finder"_s);
 }

@@ -5,11 +5,14 @@
 
 #include <vector>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 using Kind = LMInvocation::Kind;
+using Arguments = std::vector<const char*>;
 
-LMInvocation parse(std::vector<const char*> arguments) {
+LMInvocation parse(Arguments arguments) {
     arguments.insert(arguments.begin(), "rook");
     testing::internal::CaptureStdout();
     testing::internal::CaptureStderr();
@@ -20,20 +23,11 @@ LMInvocation parse(std::vector<const char*> arguments) {
 }
 
 TEST(Invocation, NamesTheMethodAndItsArguments) {
-    struct Row {
-        std::vector<const char*> arguments;
-        Kind kind;
-        const char* method;
-        QVariantList values;
-    };
-    const Row rows[] = {
+    const std::tuple<Arguments, Kind, const char*, QVariantList> rows[] = {
         {{"restore-all"}, Kind::Command, "RestoreAll", {}},
         {{"restore-app"}, Kind::Command, "RestoreActiveApplication", {}},
-        {{"restore-app", "xterm"}, Kind::Command, "RestoreApplication", {QStringLiteral("xterm")}},
-        {{"restore-app", "--", "-odd"},
-         Kind::Command,
-         "RestoreApplication",
-         {QStringLiteral("-odd")}},
+        {{"restore-app", "xterm"}, Kind::Command, "RestoreApplication", {u"xterm"_s}},
+        {{"restore-app", "--", "-odd"}, Kind::Command, "RestoreApplication", {u"-odd"_s}},
         {{"restore-app", ""}, Kind::Command, "RestoreApplication", {QString()}},
         {{"store-all"}, Kind::Command, "StoreAll", {false}},
         {{"store-all", "--overwrite"}, Kind::Command, "StoreAll", {true}},
@@ -41,18 +35,16 @@ TEST(Invocation, NamesTheMethodAndItsArguments) {
         {{"store-window"}, Kind::Command, "StoreActiveWindow", {false}},
         {{"status"}, Kind::Report, "Status", {}},
         {{"plan"}, Kind::Report, "Plan", {QString()}},
-        {{"plan", "--json", "gedit"}, Kind::Report, "Plan", {QStringLiteral("gedit")}},
+        {{"plan", "--json", "gedit"}, Kind::Report, "Plan", {u"gedit"_s}},
         {{"quit"}, Kind::Quit, "Quit", {}},
     };
-    for (const Row& row : rows) {
-        const LMInvocation invocation = parse(row.arguments);
-        EXPECT_EQ(invocation.kind, row.kind) << row.method;
-        EXPECT_EQ(invocation.method, QLatin1String(row.method));
-        EXPECT_EQ(invocation.arguments, row.values) << row.method;
+    for (const auto& [arguments, kind, method, values] : rows) {
+        const LMInvocation invocation = parse(arguments);
+        EXPECT_EQ(invocation.kind, kind) << method;
+        EXPECT_EQ(invocation.method, QLatin1String(method));
+        EXPECT_EQ(invocation.arguments, values) << method;
+        EXPECT_EQ(invocation.wantsJson, arguments.size() == 3 && method == "Plan"_L1);
     }
-    EXPECT_TRUE(parse({"plan", "--json"}).wantsJson);
-    EXPECT_TRUE(parse({"list", "--json"}).wantsJson);
-    EXPECT_FALSE(parse({"list"}).wantsJson);
 }
 
 TEST(Invocation, StartsTheResidentProcessWithoutCommand) {
@@ -63,21 +55,20 @@ TEST(Invocation, StartsTheResidentProcessWithoutCommand) {
 }
 
 TEST(Invocation, RefusesWhatMakesNoSense) {
-    const std::vector<std::vector<const char*>> wrong = {{"restore"},
-                                                         {"restore-all", "--overwrite"},
-                                                         {"store-all", "xterm"},
-                                                         {"status", "--yaml"},
-                                                         {"restore-app", "a", "b"},
-                                                         {"--jsn"},
-                                                         {"restore-all", "store-all"}};
-    for (const auto& arguments : wrong) {
-        const LMInvocation invocation = parse(arguments);
-        EXPECT_EQ(invocation.kind, Kind::Exit) << arguments.front();
-        EXPECT_EQ(invocation.exitCode, LMExitCode::Usage) << arguments.front();
-    }
-    for (const char* harmless : {"--help", "--version"}) {
-        EXPECT_EQ(parse({harmless}).kind, Kind::Exit);
-        EXPECT_EQ(parse({harmless}).exitCode, LMExitCode::Done);
+    const std::pair<Arguments, int> rows[] = {
+        {{"restore"}, LMExitCode::Usage},
+        {{"restore-all", "--overwrite"}, LMExitCode::Usage},
+        {{"store-all", "xterm"}, LMExitCode::Usage},
+        {{"status", "--yaml"}, LMExitCode::Usage},
+        {{"restore-app", "a", "b"}, LMExitCode::Usage},
+        {{"--jsn"}, LMExitCode::Usage},
+        {{"restore-all", "store-all"}, LMExitCode::Usage},
+        {{"--help"}, LMExitCode::Done},
+        {{"--version"}, LMExitCode::Done},
+    };
+    for (const auto& [arguments, exitCode] : rows) {
+        EXPECT_EQ(parse(arguments).kind, Kind::Exit) << arguments.front();
+        EXPECT_EQ(parse(arguments).exitCode, exitCode) << arguments.front();
     }
 }
 

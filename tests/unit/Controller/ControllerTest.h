@@ -4,74 +4,63 @@
 #include "Controller/LMApplicationDelegate.h"
 #include "Controller/LMUserInterface.h"
 #include "Model/LMStoredWindowsStore.h"
-#include "support/LMFakeDesktop.h"
-#include "support/LMTestEnvironment.h"
-
-#include <gtest/gtest.h>
+#include "unit/DesktopTest.h"
 
 /// Answers questions as told and writes down what it was asked and shown.
 class ScriptedUserInterface final : public LMUserInterface, public LMProgressWindow {
 public:
     LMProgressWindow& progressWindow() override { return *this; }
     LMAlertAnswer runModal(const LMAlert& alert) override {
-        alerts.append(alert.message + QLatin1Char('|') + alert.informativeText);
+        alerts.append(alert.message + u'|' + alert.informativeText);
         return answer;
     }
     bool canShowWindows() const override { return true; }
     bool isModalWindowOpen() const override { return isModal; }
     void activateIgnoringOtherApplications() override {}
-    void showStatusItem(LMStatusMenu&) override { calls.append(QStringLiteral("icon")); }
-    void removeStatusItem() override { calls.append(QStringLiteral("no icon")); }
-    void displayMenuAtCursor(LMStatusMenu&) override { calls.append(QStringLiteral("menu")); }
-    void showStoredWindowPicker(LMWorkspace&, LMWindow&) override {
-        calls.append(QStringLiteral("picker"));
-    }
-    void closeStoredWindowPicker() override { calls.append(QStringLiteral("no picker")); }
-    void showStoredWindowsList() override { calls.append(QStringLiteral("list")); }
-    void showPreferencesWindow() override { calls.append(QStringLiteral("preferences")); }
-    void showAboutPanel() override { calls.append(QStringLiteral("about")); }
-    void reloadTableViews() override { calls.append(QStringLiteral("reload")); }
+    void showStatusItem(LMStatusMenu&) override { calls.append(u"icon"_s); }
+    void removeStatusItem() override { calls.append(u"no icon"_s); }
+    void displayMenuAtCursor(LMStatusMenu&) override { calls.append(u"menu"_s); }
+    void showStoredWindowPicker(LMWorkspace&, LMWindow&) override { calls.append(u"picker"_s); }
+    void closeStoredWindowPicker() override { calls.append(u"no picker"_s); }
+    void showStoredWindowsList() override { calls.append(u"list"_s); }
+    void showPreferencesWindow() override { calls.append(u"preferences"_s); }
+    void showAboutPanel() override { calls.append(u"about"_s); }
+    void reloadTableViews() override { calls.append(u"reload"_s); }
     void setLabel(const QString& label) override { labels.append(label); }
     void setIndeterminate(bool) override {}
     void showWindow() override { ++shown; }
     void close() override { --shown; }
     void setMaxValue(double steps) override { maxValue = steps; }
-    void increment(const LMWorkspace*) override { value += 1; }
+    void increment(const LMWorkspace*) override {}
 
     LMAlertAnswer answer{LMAlertAnswer::FirstButton + 1, false}; ///< To every alert.
     bool isModal = false;
     QStringList alerts, calls, labels;
     int shown = 0;
-    double maxValue = 0, value = 0;
+    double maxValue = 0;
 };
 
 /// A controller on a fake desktop with an editor of two windows and a browser of one; the editor is
 /// the active application.
-class ControllerTest : public testing::Test {
+class ControllerTest : public DesktopTest {
 protected:
     ControllerTest() {
-        editor = desktop.addApplication(QStringLiteral("org.editor"), QStringLiteral("Editor"));
-        draft = desktop.addWindow(QStringLiteral("org.editor"),
-                                  {.title = QStringLiteral("Draft"), .frame = {10, 20, 300, 200}});
-        desktop.addWindow(QStringLiteral("org.editor"),
-                          {.title = QStringLiteral("Letter"), .frame = {50, 60, 310, 210}});
-        desktop.addApplication(QStringLiteral("org.browser"), QStringLiteral("Browser"));
-        desktop.addWindow(QStringLiteral("org.browser"),
-                          {.title = QStringLiteral("News"), .frame = {100, 100, 640, 480}});
+        desktop.addApplication(u"org.editor"_s, u"Editor"_s);
+        draft = desktop.addWindow(u"org.editor"_s, {u"Draft"_s, {10, 20, 300, 200}});
+        desktop.addWindow(u"org.editor"_s, {u"Letter"_s, {50, 60, 310, 210}});
+        launch(u"org.browser"_s, {{.title = u"News"_s}});
         desktop.focus(draft);
     }
 
-    LMCommandResult perform(const char (&code)[5], const QVariantMap& arguments = {}) {
+    LMCommandResult perform(const char* code, const QVariantMap& arguments = {}) {
+        const char name[5] = {code[0], code[1], code[2], code[3], 0};
         const auto answer = delegate.scriptingSupport().performDefaultImplementation(
-            {LMFourCharCode("Rook"), LMFourCharCode(code), arguments});
-        return answer.value_or(LMCommandResult::refused(QStringLiteral("unknown")));
+            {LMFourCharCode("Rook"), LMFourCharCode(name), arguments});
+        return answer.value_or(LMCommandResult::refused(u"unknown"_s));
     }
 
-    LMFakeDesktop desktop;
-    LMTestEnvironment test{desktop, &desktop.log()};
     ScriptedUserInterface userInterface;
-    LMStoredWindowsStore store{test.environment};
-    LMApplicationDelegate delegate{test.environment, store, userInterface};
-    qint64 editor = 0;
+    LMStoredWindowsStore store{environment};
+    LMApplicationDelegate delegate{environment, store, userInterface};
     LMElement draft;
 };

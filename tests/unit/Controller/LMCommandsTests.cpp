@@ -5,45 +5,41 @@
 #include "Model/LMStoredWindow.h"
 #include "Model/LMWorkspace.h"
 #include "Model/Store/LMObjectContext.h"
-#include "Utilities/LMUserDefaultsKeys.h"
 
 namespace {
 
-const QVariantMap Overwrite{{QStringLiteral("Overwrite"), true}};
+using testing::ElementsAre;
 
-TEST_F(ControllerTest, StoredWindowsAreRestored) {
+const QVariantMap Overwrite{{u"Overwrite"_s, true}};
+
+TEST_F(ControllerTest, StoredWindowsAreRestoredAndTheUsersApplicationIsActiveAgain) {
     ASSERT_TRUE(perform("SAll").isDone);
     desktop.window(draft).frame = {500, 400, 800, 600};
     ASSERT_TRUE(perform("RAll").isDone);
     EXPECT_EQ(desktop.window(draft).frame, QRectF(10, 20, 300, 200));
-    EXPECT_EQ(userInterface.labels,
-              (QStringList{QStringLiteral("Storing Windows for All Applications…"),
-                           QStringLiteral("Restoring Windows…")}));
+    EXPECT_THAT(userInterface.labels,
+                ElementsAre(u"Storing Windows for All Applications…"_s, u"Restoring Windows…"_s));
     EXPECT_EQ(userInterface.maxValue, 4); // Two applications, two passes.
     EXPECT_EQ(userInterface.shown, 0);
+    EXPECT_TRUE(desktop.applications().runningApplications().front().isActive);
+    EXPECT_EQ(store.managedObjectContext().objects<LMStoredWindow>().size(), 3U);
 }
 
 TEST_F(ControllerTest, NothingIsReplacedSilently) {
-    struct Row {
-        const char code[5];
-        const char* asks;
-    };
-    const Row rows[] = {{"SAll", "Stored windows already exist. Do you want"},
-                        {"SApp", "Stored windows already exist for “Editor”."},
-                        {"SWin", "An identical stored window already exists."}};
     ASSERT_TRUE(perform("SAll").isDone);
-    for (const Row& row : rows) {
-        const LMCommandResult refused = perform(row.code);
-        EXPECT_FALSE(refused.isDone) << row.code;
-        EXPECT_TRUE(refused.refusal.contains(QString::fromUtf8(row.asks))) << row.code;
-        EXPECT_TRUE(perform(row.code, Overwrite).isDone) << row.code;
+    for (const auto& [code, asks] : {
+             std::pair("SAll", u"Stored windows already exist. Do you want"),
+             std::pair("SApp", u"Stored windows already exist for “Editor”."),
+             std::pair("SWin", u"An identical stored window already exists."),
+         }) {
+        const LMCommandResult refused = perform(code);
+        EXPECT_FALSE(refused.isDone) << code;
+        EXPECT_TRUE(refused.refusal.contains(asks)) << code;
+        EXPECT_TRUE(perform(code, Overwrite).isDone) << code;
     }
     EXPECT_TRUE(userInterface.alerts.isEmpty()) << "a script must never be asked or told";
-    const auto workspaces = store.managedObjectContext().objects<LMWorkspace>();
-    ASSERT_EQ(workspaces.size(), 1U);
-    const LMApplication* application =
-        workspaces.front()->applicationForBundleIdentifier(QStringLiteral("org.editor"));
-    EXPECT_EQ(application->windows().size(), 2U) << "the active window was replaced, not doubled";
+    EXPECT_EQ(store.managedObjectContext().objects<LMStoredWindow>().size(), 3U)
+        << "the active window was replaced, not doubled";
 }
 
 TEST_F(ControllerTest, QuestionsDecide) {
@@ -56,12 +52,10 @@ TEST_F(ControllerTest, QuestionsDecide) {
     EXPECT_TRUE(commands.storeActiveWindow(false, true).isDone);
     ASSERT_EQ(userInterface.alerts.size(), 7); // Four questions, three messages.
     EXPECT_EQ(userInterface.alerts[5],
-              QStringLiteral("An identical stored window already exists. Do you want to replace "
-                             "it?|The stored window labelled “Draft” will be replaced with the "
-                             "active window."));
-    EXPECT_EQ(
-        userInterface.alerts[4],
-        QStringLiteral("Store Windows Succeeded|Rook has successfully stored windows for Editor."));
+              u"An identical stored window already exists. Do you want to replace it?|The stored "
+              "window labelled “Draft” will be replaced with the active window."_s);
+    EXPECT_EQ(userInterface.alerts[4],
+              u"Store Windows Succeeded|Rook has successfully stored windows for Editor."_s);
 }
 
 TEST_F(ControllerTest, TickingTheBoxAndCancellingSuppressesTheQuestionFromThenOn) {
@@ -73,52 +67,34 @@ TEST_F(ControllerTest, TickingTheBoxAndCancellingSuppressesTheQuestionFromThenOn
     userInterface.answer.isSuppressionTicked = true;
     EXPECT_FALSE(commands.storeActiveWindow(false, true).isDone);
     EXPECT_EQ(announced, 1);
-    EXPECT_TRUE(test.userDefaults.boolForKey(LMUserDefaultsKeys::SuppressStoreActiveWindowAlert));
+    EXPECT_TRUE(defaults.boolForKey(Keys::SuppressStoreActiveWindowAlert));
     EXPECT_TRUE(commands.storeActiveWindow(false, true).isDone);
     EXPECT_TRUE(commands.storeActiveWindow(false, true).isDone);
     EXPECT_EQ(userInterface.alerts.size(), 2) << "one question, one message";
 }
 
 TEST_F(ControllerTest, CommandsThatCannotRunSayWhy) {
-    EXPECT_TRUE(perform("RAll").refusal.contains(u"Nothing is stored"));
-    EXPECT_TRUE(perform("RNam", {{QStringLiteral("Application"), QStringLiteral("org.none")}})
-                    .refusal.contains(u"Nothing is stored"));
-    EXPECT_EQ(perform("Nope").refusal, QStringLiteral("unknown"));
-    perform("SApp");
-    EXPECT_TRUE(perform("RNam", {{QStringLiteral("Application"), QStringLiteral("org.none")}})
-                    .refusal.contains(u"“org.none”"));
-    EXPECT_TRUE(
-        perform("RNam", {{QStringLiteral("Application"), QStringLiteral("org.editor")}}).isDone);
-    desktop.world().permission = {false, {QStringLiteral("No window manager.")}};
-    for (const char* code : {"RAll", "RApp", "SApp", "SWin", "SAll"}) {
-        const char name[5] = {code[0], code[1], code[2], code[3], 0};
-        EXPECT_EQ(perform(name, Overwrite).refusal, QStringLiteral("No window manager.")) << code;
-    }
-}
-
-TEST_F(ControllerTest, TheUsersApplicationIsActiveAgainAndLiveRecordsAreGone) {
-    perform("SAll");
-    const auto objects = [this] {
-        return store.managedObjectContext().objects<LMStoredWindow>().size();
+    const auto restore = [&](const QString& identifier) {
+        return perform("RNam", {{u"Application"_s, identifier}});
     };
-    const std::size_t before = objects();
-    for (int round = 0; round < 20; ++round) {
-        perform("RAll");
-        perform("SAll");
-    }
-    EXPECT_EQ(objects(), before);
-    EXPECT_EQ(desktop.applications().runningApplications().front().isActive, true);
+    EXPECT_TRUE(perform("RAll").refusal.contains(u"Nothing is stored"));
+    EXPECT_TRUE(restore(u"org.none"_s).refusal.contains(u"Nothing is stored"));
+    EXPECT_EQ(perform("Nope").refusal, u"unknown"_s);
+    perform("SApp");
+    EXPECT_TRUE(restore(u"org.none"_s).refusal.contains(u"“org.none”"));
+    EXPECT_TRUE(restore(u"org.editor"_s).isDone);
+    desktop.world().permission = {false, {u"No window manager."_s}};
+    for (const char* code : {"RAll", "RApp", "SApp", "SWin", "SAll"})
+        EXPECT_EQ(perform(code, Overwrite).refusal, u"No window manager."_s) << code;
 }
 
 TEST_F(ControllerTest, OwnWindowsInFrontKeepTheRecordedApplication) {
     perform("RApp"); // Records the editor.
-    desktop.addApplication(QStringLiteral("org.rook.Rook"));
-    desktop.focus(
-        desktop.addWindow(QStringLiteral("org.rook.Rook"), {.title = QStringLiteral("List")}));
+    desktop.focus(launch(u"org.rook.Rook"_s)[0]);
     ASSERT_TRUE(perform("SApp").isDone);
-    const auto workspaces = store.managedObjectContext().objects<LMWorkspace>();
-    EXPECT_TRUE(workspaces.front()->storesApplication(QStringLiteral("org.editor")));
-    EXPECT_FALSE(workspaces.front()->storesApplication(QStringLiteral("org.rook.Rook")));
+    const LMWorkspace* workspace = store.managedObjectContext().objects<LMWorkspace>().front();
+    EXPECT_TRUE(workspace->storesApplication(u"org.editor"_s));
+    EXPECT_FALSE(workspace->storesApplication(u"org.rook.Rook"_s));
 }
 
 } // namespace

@@ -4,40 +4,47 @@
 #include "Controller/LMReports.h"
 
 #include <QJsonArray>
+#include <QJsonDocument>
 
 namespace {
 
 TEST_F(ControllerTest, PlanTellsWhatARestoreWouldDoAndChangesNothing) {
     perform("SAll");
-    desktop.window(draft).frame = {500, 400, 300, 200};
-    desktop.removeApplication(QStringLiteral("org.browser"));
-    desktop.log().clear();
-    const QJsonObject plan = LMReports::plan(delegate.commandParts(), QString());
-    EXPECT_TRUE(desktop.log().events().isEmpty()) << "a dry run must touch nothing";
-
-    QHash<QString, QJsonObject> applications;
-    for (const QJsonValue& application : plan[u"applications"].toArray())
-        applications.insert(application[u"identifier"].toString(), application.toObject());
-    const QJsonObject window = applications[QStringLiteral("org.editor")][u"windows"][0].toObject();
-    EXPECT_EQ(window[u"storedWindow"].toString(), QStringLiteral("Draft"));
-    EXPECT_EQ(window[u"score"].toInt(), 5);
-    EXPECT_EQ(window[u"from"][u"x"].toDouble(), 500);
-    EXPECT_EQ(window[u"to"][u"x"].toDouble(), 10);
-    EXPECT_EQ(window[u"reasons"].toArray(),
-              QJsonArray({QStringLiteral("structure"), QStringLiteral("title"),
-                          QStringLiteral("subrole"), QStringLiteral("size")}));
-    const QJsonObject browser = applications[QStringLiteral("org.browser")];
-    EXPECT_FALSE(browser[u"running"].toBool());
-    EXPECT_EQ(browser[u"unmatched"][0][u"name"].toString(), QStringLiteral("News"));
-    EXPECT_TRUE(
-        LMReports::plan(delegate.commandParts(), QStringLiteral("org.none"))[u"error"].isString());
+    desktop.window(draft).frame = {500, 400, 310, 200};
+    desktop.removeApplication(u"org.browser"_s);
+    launch(u"org.new"_s, {{u"New"_s, {0, 0, 9, 8}}});
+    events();
+    const auto plan = [&](const QString& identifier) {
+        return LMReports::plan(delegate.commandParts(), identifier);
+    };
+    const QByteArray expected = R"({"applications": [
+        {"identifier": "org.editor", "name": "Editor", "running": true, "stored": true, "windows": [
+            {"title": "Draft", "storedWindow": "Draft", "score": 4,
+             "reasons": ["structure", "title", "subrole"],
+             "from": {"x": 500, "y": 400, "width": 310, "height": 200},
+             "to": {"x": 10, "y": 20, "width": 300, "height": 200}},
+            {"title": "Letter", "storedWindow": "Letter", "score": 5,
+             "reasons": ["structure", "title", "subrole", "size"],
+             "from": {"x": 50, "y": 60, "width": 310, "height": 210},
+             "to": {"x": 50, "y": 60, "width": 310, "height": 210}}], "unmatched": []},
+        {"identifier": "org.browser", "name": "org.browser", "running": false, "stored": true,
+         "windows": [], "unmatched": [
+            {"name": "News", "frame": {"x": 100, "y": 100, "width": 640, "height": 480}}]},
+        {"identifier": "org.new", "name": "org.new", "running": true, "stored": false, "windows": [
+            {"title": "New", "storedWindow": null, "score": 0, "reasons": [],
+             "from": {"x": 0, "y": 0, "width": 9, "height": 8}, "to": null}], "unmatched": []}]})";
+    EXPECT_EQ(QJsonDocument(plan(QString())).toJson().toStdString(),
+              QJsonDocument::fromJson(expected).toJson().toStdString());
+    EXPECT_EQ(plan(u"org.new"_s)[u"applications"].toArray().size(), 1);
+    EXPECT_TRUE(plan(u"org.none"_s)[u"error"].isString());
+    EXPECT_EQ(events(), QString()) << "a dry run must touch nothing";
 }
 
 TEST_F(ControllerTest, ReportsCountWhatIsThere) {
     perform("SAll");
     const QJsonObject status = LMReports::status(delegate.commandParts());
     EXPECT_EQ(status[u"counts"][u"storedWindows"].toInt(), 3);
-    EXPECT_EQ(status[u"currentWorkspace"].toString(), QStringLiteral("1 Display"));
+    EXPECT_EQ(status[u"currentWorkspace"].toString(), u"1 Display"_s);
     EXPECT_TRUE(status[u"permission"][u"trusted"].toBool());
     const QJsonObject list = LMReports::list(delegate.commandParts());
     EXPECT_TRUE(list[u"workspaces"][0][u"current"].toBool());

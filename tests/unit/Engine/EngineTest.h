@@ -9,66 +9,39 @@
 #include "Model/LMWorkspace.h"
 #include "Model/Store/LMObjectContext.h"
 #include "Model/Store/LMObjectModel.h"
-#include "support/LMFakeDesktop.h"
-#include "support/LMTestEnvironment.h"
-#include "Utilities/LMUserDefaultsKeys.h"
+#include "unit/DesktopTest.h"
 
-#include <gtest/gtest.h>
+#include <QDir>
 
-using namespace Qt::Literals::StringLiterals;
-
-/// Counts the steps it is told.
-struct CountingProgress final : LMProgress {
-    void setMaxValue(double value) override { maxValue = value; }
-    void increment(const LMWorkspace*) override { ++steps; }
-    double maxValue = 0;
-    int steps = 0;
-};
-
-/// The model on a fake desktop with a fake clock. Whatever is asked of the desktop, and every
-/// pause, stands in one log in order.
-class EngineTest : public testing::Test {
+/// The model on a fake desktop.
+class EngineTest : public DesktopTest {
 protected:
     EngineTest() {
         test.knownApplications =
             LMKnownApplications::fromPropertyList(u":/rook/Known Applications.plist"_s);
-        defaults.registerDefaults(
-            {{LMUserDefaultsKeys::FloatingWindowActivationDelay, 2500.9},
-             {LMUserDefaultsKeys::CreateScreenshotsWhenStoringWindows, false}});
-    }
-
-    static LMFakeWindow fakeWindow(const QString& title, const QRectF& frame) {
-        return {.title = title, .frame = frame};
-    }
-    static LMFakeWindow floatingWindow(const QString& title, const QRectF& frame) {
-        return {.title = title, .frame = frame, .subrole = u"AXFloatingWindow"_s};
-    }
-
-    /// Opens windows of a new application, front to back.
-    QList<LMElement> launch(const QString& identifier, const QList<LMFakeWindow>& windows) {
-        desktop.addApplication(identifier);
-        QList<LMElement> elements;
-        for (const LMFakeWindow& window : windows)
-            elements.append(desktop.addWindow(identifier, window));
-        return elements;
+        defaults.registerDefaults({{Keys::FloatingWindowActivationDelay, 2500.9},
+                                   {Keys::CreateScreenshotsWhenStoringWindows, false}});
     }
 
     /// The record of a running application with all its present windows stored.
     LMApplication& stored(const QString& identifier) {
-        LMApplication* application =
-            LMApplication::applicationWithBundleIdentifier(context, identifier);
+        auto* application = LMApplication::applicationWithBundleIdentifier(context, identifier);
         EXPECT_NE(application, nullptr);
         desktop.log().clear();
         return *application;
     }
-
-    /// What happened since the last call.
-    QString events() {
-        const QString result = desktop.log().events().join(u", "_s);
-        desktop.log().clear();
-        return result;
+    LMWindow* live(const LMElement& element) {
+        return LMWindow::windowWithElement(context, element);
     }
+    QRectF frame(const LMElement& element) { return desktop.window(element).frame; }
 
+    /// Whether the picture kept with the window is that of the element.
+    static bool shows(const LMWindow& window, const LMElement& element) {
+        return window.screenshot().pixel(0, 0) == (0xff000000u | unsigned(element.identifier));
+    }
+    qsizetype pictures() const {
+        return QDir(test.folders.screenshotsDirectoryURL()).entryList(QDir::Files).size();
+    }
     static QString titles(const std::vector<LMStoredWindow*>& windows) {
         QStringList result;
         for (LMStoredWindow* window : windows)
@@ -76,11 +49,9 @@ protected:
         return result.join(u", "_s);
     }
 
-    LMFakeDesktop desktop;
-    LMTestEnvironment test{desktop, &desktop.log()};
-    LMEnvironment& environment = test.environment;
-    LMUserDefaults& defaults = test.userDefaults;
-    LMFolders& folders = test.folders;
+    const QRectF left{0, 0, 300, 200};
+    const QRectF right{400, 0, 350, 250};
+    const QString floating = u"AXFloatingWindow"_s;
     std::unique_ptr<LMObjectModel> model = LMRookModel();
     LMObjectContext context{*model, environment};
 };

@@ -9,6 +9,8 @@
 
 namespace {
 
+using testing::ElementsAre;
+
 class MatchingTest : public EngineTest {
 protected:
     LMWindow& window(const QString& title = u"Doc"_s) {
@@ -20,16 +22,14 @@ protected:
         record->setChildren(QStringList{u"AXCloseButton"_s, u"AXZoomButton"_s});
         return *record;
     }
-
-    LMStoredWindow* storedWindow(const QString& title, const QString& pattern = {}) {
-        LMStoredWindow* record = LMStoredWindow::storedWindowWithWindow(&window(title));
-        record->setTitleRegularExpression(pattern);
-        return record;
-    }
-
     LMStoredWindow* storedPattern(const QString& pattern) {
         auto* record = context.insertObject<LMStoredWindow>();
         record->setTitleRegularExpression(pattern);
+        return record;
+    }
+    LMStoredWindow* storedWindow(const QString& title, const QString& pattern = {}) {
+        LMStoredWindow* record = storedPattern(pattern);
+        record->addMatchingWindows({&window(title)});
         return record;
     }
 
@@ -39,13 +39,8 @@ protected:
 TEST_F(MatchingTest, ScoresLikenessOfTwoWindows) {
     using W = LMWindow;
     const QStringList otherOrder{u"AXZoomButton"_s, u"AXCloseButton"_s};
-    const struct {
-        const char* name;
-        std::function<void(W&)> change;
-        unsigned score;     ///< When the second window is changed.
-        unsigned bothScore; ///< When both are.
-    } rows[] = {
-        {"nothing", [](W&) {}, 5, 5},
+    // The score when only one of the windows is changed, and when both are.
+    const std::tuple<const char*, std::function<void(W&)>, unsigned, unsigned> rows[] = {
         {"position", [](W& w) { w.setFrame(QRectF(0, 0, 640, 480)); }, 5, 5},
         {"half a pixel", [](W& w) { w.setFrame(QRectF(10, 20, 640.5, 480)); }, 4, 5},
         {"subrole", [](W& w) { w.setSubrole(u"AXDialog"_s); }, 4, 5},
@@ -53,99 +48,86 @@ TEST_F(MatchingTest, ScoresLikenessOfTwoWindows) {
         {"title", [](W& w) { w.setTitle(u"doc"_s); }, 3, 5},
         {"empty title", [](W& w) { w.setTitle(u""_s); }, 3, 5},
         {"no title", [](W& w) { w.setTitle(QString()); }, 3, 3},
+        {"title alone", [](W& w) { w.setSubrole({}), w.setFrame(QRectF(1, 1, 1, 1)); }, 3, 4},
         {"toolbar", [](W& w) { w.setHasToolbarButton(true); }, 0, 5},
         {"grow area", [](W& w) { w.setHasGrowArea(false); }, 0, 5},
         {"document", [](W& w) { w.setHasDocument(true); }, 0, 5},
         {"child order", [&](W& w) { w.setChildren(otherOrder); }, 0, 5},
         {"no children", [](W& w) { w.setChildren(std::nullopt); }, 0, 0},
     };
-    for (const auto& row : rows) {
-        LMWindow& a = window();
-        LMWindow& b = window();
-        row.change(b);
-        EXPECT_EQ(a.windowMatchScore(b), row.score) << row.name;
-        EXPECT_EQ(a.isIdenticalToWindow(b), row.score > 3) << row.name;
-        row.change(a);
-        EXPECT_EQ(a.windowMatchScore(b), row.bothScore) << row.name;
+    for (const auto& [name, change, score, bothScore] : rows) {
+        LMWindow &a = window(), &b = window();
+        change(b);
+        EXPECT_EQ(a.windowMatchScore(b), score) << name;
+        EXPECT_EQ(a.isIdenticalToWindow(b), score > 3) << name;
+        change(a);
+        EXPECT_EQ(a.windowMatchScore(b), bothScore) << name;
     }
-    LMWindow& otherwise = window();
-    otherwise.setSubrole(u""_s);
-    otherwise.setFrame({10, 20, 1, 1});
-    EXPECT_EQ(window().windowMatchScore(otherwise), 3U) << "equal titles alone are no identity";
 }
 
 TEST_F(MatchingTest, ScoresStoredWindows) {
     LMWindow& live = window(u"Doc 1"_s);
-    const struct {
-        LMStoredWindow* stored;
-        unsigned score;
-        quint64 distance;
-    } rows[] = {
+    constexpr quint64 inexact = 4294967295;
+    const std::tuple<LMStoredWindow*, unsigned, quint64> rows[] = {
         {storedWindow(u"Doc 1"_s), 5, 0},
-        {storedWindow(u"Doc 2"_s), 3, 4294967295},
+        {storedWindow(u"Doc 2"_s), 3, inexact},
         {storedWindow(QString()), 3, 0},
-        {storedWindow(u"Doc 2"_s, u"^Doc \\d$"_s), 9, 4294967295},
+        {storedWindow(u"Doc 2"_s, u"^Doc \\d$"_s), 9, inexact},
         {storedWindow(u"Doc 1"_s, u"oc"_s), 11, 0},
         {storedWindow(u"Doc 1"_s, u"(oc"_s), 5, 0},
-        {storedPattern(u".*"_s), 6, 4294967295},
-        {storedPattern(QString()), 0, 4294967295},
+        {storedPattern(u".*"_s), 6, inexact},
+        {storedPattern(QString()), 0, inexact},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(row.stored->windowMatchScore(live), row.score)
-            << row.stored->title().toStdString();
-        EXPECT_EQ(row.stored->titleStringEditDistance(live), row.distance);
+    for (const auto& [stored, score, distance] : rows) {
+        EXPECT_EQ(stored->windowMatchScore(live), score) << stored->title().toStdString();
+        EXPECT_EQ(stored->titleStringEditDistance(live), distance);
     }
 }
 
 TEST_F(MatchingTest, TakesTheBestCandidateAndMovesItToTheEnd) {
-    LMWindow& live = window(u"Doc"_s);
-    LMStoredWindow* const a = storedWindow(u"A"_s);
-    LMStoredWindow* const b = storedWindow(u"B"_s);
-    LMStoredWindow* const c = storedWindow(u"C"_s);
+    LMWindow& live = window();
+    auto *a = storedWindow(u"A"_s), *b = storedWindow(u"B"_s), *c = storedWindow(u"C"_s);
     LMStoredWindow* const unlike = storedPattern(u"^other"_s);
     std::vector<LMStoredWindow*> candidates{unlike, a, b, c};
     for (LMStoredWindow* expected : {a, b, c, a})
         EXPECT_EQ(application.bestMatchForWindow(live, candidates), expected);
-    EXPECT_EQ(candidates, (std::vector<LMStoredWindow*>{unlike, b, c, a}));
-
-    // An equal score: an exact title wins wherever it stands, an absent one counts as exact.
-    LMStoredWindow* const untitled = storedWindow(QString());
-    candidates = {a, untitled, b};
-    EXPECT_EQ(application.bestMatchForWindow(live, candidates), untitled);
+    EXPECT_THAT(candidates, ElementsAre(unlike, b, c, a));
     candidates = {unlike};
     EXPECT_EQ(application.bestMatchForWindow(live, candidates), nullptr);
-    EXPECT_EQ(candidates, std::vector<LMStoredWindow*>{unlike});
+    EXPECT_THAT(candidates, ElementsAre(unlike));
 }
 
 TEST_F(MatchingTest, SaysWhatDecided) {
-    LMWindow& live = window(u"Doc"_s);
-    const auto decide = [&](const std::vector<LMStoredWindow*>& candidates) {
-        return LMWindowMatcher(candidates, environment.regexCache).bestMatchForWindow(live);
+    LMWindow& live = window();
+    auto *exact = storedWindow(u"Doc"_s), *other = storedWindow(u"Other"_s);
+    // An absent title counts as exact, wherever it stands.
+    auto *untitled = storedWindow(QString()), *pattern = storedWindow(u"Other"_s, u"D"_s);
+    using Candidates = std::vector<LMStoredWindow*>;
+    const std::tuple<Candidates, LMStoredWindow*, LMTieBreak> rows[] = {
+        {{other, exact}, exact, LMTieBreak::None},
+        {{exact, exact}, exact, LMTieBreak::Order},
+        {{other, untitled, other}, untitled, LMTieBreak::Title},
+        {{exact, pattern}, pattern, LMTieBreak::None},
+        {{}, nullptr, LMTieBreak::None},
     };
-    LMStoredWindow* const exact = storedWindow(u"Doc"_s);
-    LMStoredWindow* const other = storedWindow(u"Other"_s);
-    EXPECT_EQ(decide({other, exact}).tieBreak, LMTieBreak::None);
-    EXPECT_EQ(decide({exact, exact}).tieBreak, LMTieBreak::Order);
-    EXPECT_EQ(decide({other, storedWindow(QString()), other}).tieBreak, LMTieBreak::Title);
-    const LMWindowMatch match = decide({exact, storedWindow(u"Other"_s, u"D"_s)});
-    EXPECT_EQ(match.score, 9U);
-    EXPECT_TRUE(match.pattern && match.likeness.structure && match.likeness.size);
-    EXPECT_FALSE(match.likeness.title);
-    EXPECT_EQ(decide({}).storedWindow, nullptr);
+    for (const auto& [candidates, best, tieBreak] : rows) {
+        const auto match =
+            LMWindowMatcher(candidates, environment.regexCache).bestMatchForWindow(live);
+        EXPECT_EQ(match.storedWindow, best);
+        EXPECT_EQ(match.tieBreak, tieBreak);
+        EXPECT_EQ(match.pattern, best == pattern);
+        EXPECT_EQ(match.likeness.title, best == exact);
+    }
 }
 
 TEST_F(MatchingTest, GivesEachDocumentItsOwnFrameWhateverTheirOrder) {
-    LMStoredWindow* const one = storedWindow(u"One"_s);
-    LMStoredWindow* const two = storedWindow(u"Two"_s);
-    LMStoredWindow* const three = storedWindow(u"Three"_s);
-    LMWindow& first = window(u"Two"_s);
-    LMWindow& second = window(u"One"_s);
-    const LMRestorePlan plan =
-        LMPlanRestore({&first, &second}, {one, two, three}, environment.regexCache);
+    auto *one = storedWindow(u"One"_s), *two = storedWindow(u"Two"_s), *three = storedWindow({});
+    const LMRestorePlan plan = LMPlanRestore({&window(u"Two"_s), &window(u"One"_s)},
+                                             {one, two, three}, environment.regexCache);
     ASSERT_EQ(plan.assignments.size(), 2U);
     EXPECT_EQ(plan.assignments[0].match.storedWindow, two);
     EXPECT_EQ(plan.assignments[1].match.storedWindow, one);
-    EXPECT_EQ(plan.unmatchedStoredWindows, std::vector<LMStoredWindow*>{three});
+    EXPECT_THAT(plan.unmatchedStoredWindows, ElementsAre(three));
 }
 
 TEST_F(MatchingTest, PaysForACatastrophicPatternOnce) {
@@ -163,45 +145,45 @@ TEST_F(MatchingTest, PaysForACatastrophicPatternOnce) {
     EXPECT_EQ(plan.assignments[8].match.storedWindow, nullptr);
 }
 
-TEST(LMDefaultTitlePatterns, FollowTheTable) {
-    const auto known = LMKnownApplications::fromPropertyList(u":/rook/Known Applications.plist"_s);
-    const QString none;
-    // clang-format off
-    const struct {
-        QString identifier;
-        QStringList titles;
-        QStringList patterns;
-    } rows[] = {
-        {u"firefox-esr"_s, {u"Page"_s}, {u".*"_s}},
-        {u"org.mozilla.firefox"_s, {u"A"_s, u"B"_s}, {none, none}},
-        {u"com.apple.iTunes"_s, {u"iTunes"_s, u"Song"_s, u"MiniPlayer"_s, u"iTunes"_s}, {u"iTunes"_s, none, u"MiniPlayer"_s, u"iTunes"_s}},
-        {u"com.apple.iChat"_s, {u"Chat"_s, u"Messages"_s, u"Messages"_s}, {none, u"Messages"_s, none}},
-        {u"com.apple.reminders"_s, {u"Reminders"_s}, {u"Reminders"_s}},
-        {u"com.apple.reminders"_s, {u"Reminders"_s, u"Reminders"_s}, {none, none}},
-        {u"com.tapbots.TweetbotMac"_s, {u"Main Window"_s, u"Main Window"_s}, {u"Main Window"_s, none}},
-        {u"com.apple.Terminal"_s, {u"bash — \u23181"_s, u"bash"_s, u"\u2318"_s, u"\u231812"_s}, {u"\u23181"_s, none, none, none}},
-        {u"com.googlecode.iterm2"_s, {u"12. bash"_s, u"123. bash"_s, u"ab. x"_s, u"x1"_s, u"7"_s, u"1x"_s, u" 7.a"_s, u"-. x"_s, none}, {u"^12\\."_s, none, none, none, none, u"^1x\\."_s, u"^ 7\\."_s, none, none}},
-        {u"org.example.Editor"_s, {u"Reminders"_s}, {none}},
+// Titles that get a pattern stand before it, after "->"; the others stand alone.
+TEST_F(MatchingTest, DefaultPatternsFollowTheTable) {
+    const std::pair<const char*, QStringList> rows[] = {
+        {"firefox-esr", {u"Page -> .*"_s}},
+        {"org.mozilla.firefox", {u"A"_s, u"B"_s}},
+        {"com.apple.iTunes",
+         {u"iTunes -> iTunes"_s, u"Song"_s, u"MiniPlayer -> MiniPlayer"_s, u"iTunes -> iTunes"_s}},
+        {"com.apple.iChat", {u"Chat"_s, u"Messages -> Messages"_s, u"Messages"_s}},
+        {"com.apple.reminders", {u"Reminders -> Reminders"_s}},
+        {"com.apple.reminders", {u"Reminders"_s, u"Reminders"_s}},
+        {"com.tapbots.TweetbotMac", {u"Main Window -> Main Window"_s, u"Main Window"_s}},
+        {"com.apple.Terminal", {u"sh \u23181 -> \u23181"_s, u"sh"_s, u"\u2318"_s, u"\u231812"_s}},
+        {"com.googlecode.iterm2",
+         {u"12. sh -> ^12\\."_s, u"123. sh"_s, u"ab. x"_s, u"x1"_s, u"7"_s, u"1x -> ^1x\\."_s,
+          u" 7.a -> ^ 7\\."_s, u"-. x"_s, QString()}},
+        {"org.example.Editor", {u"Reminders"_s}},
     };
-    // clang-format on
-    for (const auto& row : rows) {
-        QStringList patterns;
-        for (const auto& pattern : LMDefaultTitlePatterns(known, row.identifier, row.titles))
-            patterns.append(pattern.value_or(none));
-        EXPECT_EQ(patterns, row.patterns) << row.identifier.toStdString();
+    for (const auto& [identifier, expected] : rows) {
+        QStringList titles, found;
+        for (const QString& row : expected)
+            titles.append(row.section(u" -> "_s, 0, 0));
+        const auto patterns = LMDefaultTitlePatterns(environment.knownApplications,
+                                                     QLatin1String(identifier), titles);
+        for (std::size_t index = 0; index < patterns.size(); ++index)
+            found.append(titles[int(index)] + (patterns[index] ? u" -> "_s : u""_s) +
+                         patterns[index].value_or(QString()));
+        EXPECT_EQ(found, expected) << identifier;
     }
 }
 
 TEST_F(MatchingTest, WritesDefaultPatternsUnlessDisabledAndPutsAWindowFirst) {
     application.setBundleIdentifier(u"com.google.Chrome"_s);
-    application.addWindowsObject(storedWindow(u"Page"_s, u"mine"_s));
-    LMStoredWindow* const only = application.orderedWindows()[0];
-    defaults.setObject(LMUserDefaultsKeys::DisableAutomaticTitleMatchPatternGeneration, true);
-    application.addDefaultTitleMatchPatterns();
-    EXPECT_EQ(only->titleRegularExpression(), u"mine"_s);
-    defaults.setObject(LMUserDefaultsKeys::DisableAutomaticTitleMatchPatternGeneration, false);
-    application.addDefaultTitleMatchPatterns();
-    EXPECT_EQ(only->titleRegularExpression(), u".*"_s);
+    LMStoredWindow* const only = storedWindow(u"Page"_s, u"mine"_s);
+    application.addWindowsObject(only);
+    for (const auto& [isDisabled, pattern] : {std::pair(true, u"mine"_s), {false, u".*"_s}}) {
+        defaults.setObject(Keys::DisableAutomaticTitleMatchPatternGeneration, isDisabled);
+        application.addDefaultTitleMatchPatterns();
+        EXPECT_EQ(only->titleRegularExpression(), pattern);
+    }
     application.addWindowsObject(storedWindow(u"Second"_s));
     application.prioritiseStoredWindow(*application.orderedWindows()[1]);
     EXPECT_EQ(titles(application.orderedWindows()), u"Second, Page"_s);

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ModelTest.h"
 
-#include <QElapsedTimer>
+#include <QDeadlineTimer>
 
-#include <sys/time.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -13,16 +12,16 @@ namespace {
 
 class ActionTest : public ModelTest {
 protected:
-    ActionTest() { ::qputenv("TMPDIR", QFile::encodeName(world.directory.path())); }
+    ActionTest() { ::qputenv("TMPDIR", QFile::encodeName(test.directory.path())); }
     ~ActionTest() override { ::qunsetenv("TMPDIR"); }
 
     /// Runs the script and answers what was logged.
     QString run(const QString& script, const QString& kind = u"Shell Script"_s) {
         action->setRunAs(kind);
         action->setScript(script);
-        world.messages.clear();
+        test.messages.clear();
         action->run();
-        return world.messages.join(u'|').replace(u"Shell script returned: "_s, u"> "_s);
+        return test.messages.join(u'|').replace(u"Shell script returned: "_s, u"> "_s);
     }
 
     LMAction* action = insert<LMAction>();
@@ -32,11 +31,9 @@ protected:
 
 TEST_F(ActionTest, ShellScriptsRunUnderTheirInterpreter) {
     const QString error = u"Error running shell script: "_s;
-    // clang-format off
+    const QString self = u"echo $#; stat -c %a \"$0\"; basename \"$0\" | cut -c 1-14"_s;
     const struct {
-        QString script;
-        QString logged;
-        QString rewritten = script;
+        QString script, logged, rewritten = script;
     } cases[] = {
         {u"echo hi"_s, u"> hi\\n"_s, u"#!/bin/bash\n\necho hi"_s},
         {u"#!/bin/bash\n\necho hi"_s, u"> hi\\n"_s},
@@ -44,7 +41,7 @@ TEST_F(ActionTest, ShellScriptsRunUnderTheirInterpreter) {
         {u"#!/bin/sh\nprintf 'h\\303\\244'"_s, u"> h\u00e4"_s},
         {u"#!/bin/sh\n(sleep 0.2; echo late) & echo early"_s, u"> early\\nlate\\n"_s},
         {u"#!/bin/sh\nkill -9 $$"_s, u"> "_s},
-        {u"#!/bin/sh\necho $#; stat -c %a \"$0\"; basename \"$0\" | cut -c 1-14"_s, u"> 0\\n700\\norg.rook.Rook.\\n"_s},
+        {u"#!/bin/sh\n"_s + self, u"> 0\\n700\\norg.rook.Rook.\\n"_s},
         {u"#!/bin/bash\nread -t 0.1 line; echo $(($? > 128))"_s, u"> 1\\n"_s}, // Open, but empty.
         {u"ls"_s, {}},
         {u"#!"_s, {}},
@@ -54,35 +51,27 @@ TEST_F(ActionTest, ShellScriptsRunUnderTheirInterpreter) {
         {u"#!/bin/sh\recho hi"_s, u"Failed to run shell script"_s},
         {u"x\xd800y"_s, {}, u"#!/bin/bash\n\nx\xd800y"_s}, // Not to be written as UTF-8.
     };
-    // clang-format on
     for (const auto& one : cases) {
         EXPECT_EQ(run(one.script), one.logged) << one.script.toStdString();
         EXPECT_EQ(action->script(), one.rewritten);
     }
     for (const QString& kind : {u"shell script"_s, u"AppleScript"_s, u""_s})
         EXPECT_EQ(run(u"#!/bin/sh\necho hi"_s, kind), QString());
-    const QDir temporary(world.directory.path());
+    const QDir temporary(test.directory.path());
     EXPECT_EQ(temporary.entryList({u"org.rook.Rook.*"_s}).size(), 1); // The one not written.
 }
 
 TEST_F(ActionTest, NoProcessStaysBehindAndSignalsDoNotInterrupt) {
-    // A timer interrupts the reads every millisecond.
     struct sigaction ticking {};
-    struct sigaction before {};
     ticking.sa_handler = [](int) {};
-    ::sigaction(SIGALRM, &ticking, &before);
-    const itimerval every{{0, 1000}, {0, 1000}};
-    ::setitimer(ITIMER_REAL, &every, nullptr);
+    ::sigaction(SIGALRM, &ticking, nullptr);
+    ::ualarm(1000, 1000); // Interrupts the reads every millisecond.
     EXPECT_EQ(run(u"#!/bin/sh\nsleep 0.1; echo done"_s), u"> done\\n"_s);
     EXPECT_EQ(run(u"#!/bin/sh\nexec >&-; sleep 0.1"_s), u"> "_s);
-    const itimerval never{};
-    ::setitimer(ITIMER_REAL, &never, nullptr);
-    ::sigaction(SIGALRM, &before, nullptr);
+    ::ualarm(0, 0);
 
-    QElapsedTimer deadline;
-    deadline.start();
-    pid_t left = 0;
-    while ((left = ::waitpid(-1, nullptr, WNOHANG)) != -1 && !deadline.hasExpired(10'000))
+    const QDeadlineTimer deadline(10'000);
+    while (::waitpid(-1, nullptr, WNOHANG) != -1 && !deadline.hasExpired())
         ::usleep(1000);
-    EXPECT_EQ(left, -1);
+    EXPECT_FALSE(deadline.hasExpired());
 }

@@ -4,35 +4,34 @@
 #include "Model/LMAction.h"
 #include "Model/LMApplication.h"
 #include "Model/LMDisplay.h"
-#include "Model/LMRookModel.h"
 #include "Model/LMStoredWindow.h"
 #include "Model/LMStoredWindowsStore.h"
 #include "Model/LMWindow.h"
 #include "Model/LMWorkspace.h"
 #include "Model/Store/LMObjectContext.h"
-#include "Model/Store/LMObjectModel.h"
-#include "support/LMFakeDesktop.h"
-#include "support/LMTestEnvironment.h"
+#include "unit/DesktopTest.h"
 
 #include <QDir>
 #include <QFile>
 
-#include <gtest/gtest.h>
-
-using namespace Qt::Literals::StringLiterals;
+using testing::ElementsAre;
 
 /// The records in the store that the program itself opens.
-class ModelTest : public testing::Test {
+class ModelTest : public DesktopTest {
 protected:
     LMObjectContext& context() { return store->managedObjectContext(); }
     void reopen(const QString& version = u"1.0"_s) {
         store.reset();
-        store = std::make_unique<LMStoredWindowsStore>(world.environment, version);
+        store = std::make_unique<LMStoredWindowsStore>(environment, version);
     }
 
     template <class T>
     T* insert() {
         return context().insertObject<T>();
+    }
+    template <class T>
+    std::vector<T*> all() {
+        return context().objects<T>();
     }
     LMWindow* window(const QString& title) {
         auto* result = insert<LMWindow>();
@@ -43,11 +42,18 @@ protected:
     LMStoredWindow* storedWindow(const QString& title) {
         return LMStoredWindow::storedWindowWithWindow(window(title));
     }
-    LMApplication* applicationIn(LMWorkspace* workspace, const QString& identifier) {
-        auto* application = insert<LMApplication>();
-        application->setBundleIdentifier(identifier);
-        workspace->addApplicationsObject(application);
-        return application;
+    LMApplication* application(const QString& identifier = u"org.editor"_s,
+                               LMWorkspace* workspace = nullptr) {
+        auto* result = insert<LMApplication>();
+        result->setBundleIdentifier(identifier);
+        (workspace ? workspace : insert<LMWorkspace>())->addApplicationsObject(result);
+        return result;
+    }
+    /// A closed store with an application in it that has the stored windows "a" and "b".
+    void makeStore() {
+        application()->addWindows({storedWindow(u"a"_s), storedWindow(u"b"_s)});
+        store->saveWindows();
+        store.reset();
     }
 
     static QStringList titles(const std::vector<LMStoredWindow*>& windows) {
@@ -56,26 +62,20 @@ protected:
             result.append(window->title());
         return result;
     }
+    QStringList storedTitles() { return titles(all<LMStoredWindow>()); }
 
-    QString write(const QString& path, const QByteArray& content = "x") const {
+    QString path() const { return test.folders.storedWindowsURL(); }
+    static QString write(const QString& path, const QByteArray& content = "x") {
         QFile file(path);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(content);
         return path;
     }
-
-    QString path() const { return world.folders.storedWindowsURL(); }
-    /// A closed store with an application in it that has the stored windows "a" and "b".
-    void makeStore() {
-        applicationIn(insert<LMWorkspace>(), u"org.editor"_s)
-            ->addWindows({storedWindow(u"a"_s), storedWindow(u"b"_s)});
-        store->saveWindows();
-        store.reset();
+    static QByteArray content(const QString& path) {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-    QStringList storedTitles() { return titles(context().objects<LMStoredWindow>()); }
 
-    LMFakeDesktop desktop;
-    LMTestEnvironment world{desktop};
     std::unique_ptr<LMStoredWindowsStore> store =
-        std::make_unique<LMStoredWindowsStore>(world.environment, u"1.0"_s);
+        std::make_unique<LMStoredWindowsStore>(environment, u"1.0"_s);
 };

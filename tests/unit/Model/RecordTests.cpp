@@ -1,36 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "ModelTest.h"
 
-namespace {
-
-/// Every attribute and relationship there is, read through the accessors.
-QStringList everything(LMObjectContext& context) {
-    QStringList all;
-    for (LMWorkspace* each : context.objects<LMWorkspace>())
-        all << each->name() << QString::number(each->displays().count());
-    for (LMAction* each : context.objects<LMAction>())
-        all << each->label() << each->script() << each->runAs() << each->workspace()->name()
-            << QString::number(each->runOnDisplayChange());
-    for (LMDisplay* each : context.objects<LMDisplay>())
-        all << each->displayBounds() << each->productName() << each->vendorNumber()
-            << each->modelNumber() << each->serialNumber();
-    for (LMApplication* each : context.objects<LMApplication>())
-        all << each->name() << each->bundleIdentifier() << each->windowsOrdering();
-    for (LMStoredWindow* each : context.objects<LMStoredWindow>())
-        all << each->label() << each->titleRegularExpression() << each->frameString()
-            << each->application()->name() << each->matchingWindowsOrdering();
-    for (LMWindow* each : context.objects<LMWindow>())
-        all << each->title() << each->subrole() << each->frameString() << each->screenshotFilename()
-            << each->children().value_or(QStringList()) << each->storedWindow()->label()
-            << QString::number(each->hasToolbarButton())
-            << QString::number(each->hasGrowArea()) + QString::number(each->hasDocument());
-    return all;
-}
-
-} // namespace
-
 TEST_F(ModelTest, EveryAttributeAndRelationshipSurvivesTheStore) {
-    auto* workspace = insert<LMWorkspace>();
+    LMApplication* editor = application();
+    editor->setName(u"Editor"_s);
+    LMWorkspace* workspace = editor->workspace();
     workspace->setName(u"Desk"_s);
     auto* action = insert<LMAction>();
     action->setLabel(u"mount"_s);
@@ -38,15 +12,13 @@ TEST_F(ModelTest, EveryAttributeAndRelationshipSurvivesTheStore) {
     action->setRunAs(u"Shell Script"_s);
     action->setRunOnDisplayChange(true);
     workspace->addActionsObject(action);
-    LMDisplay* display = workspace->displays().allObjects().front();
+    LMDisplay* display = all<LMDisplay>().front();
     display->setProductName(u"Panel"_s);
     display->setVendorNumber(u"4294967295"_s);
     display->setModelNumber(u"2"_s);
     display->setSerialNumber(u"3"_s);
-    LMApplication* application = applicationIn(workspace, u"org.editor"_s);
-    application->setName(u"Editor"_s);
     LMStoredWindow* stored = storedWindow(u"Draft"_s);
-    application->windows().addObject(stored);
+    editor->windows().addObject(stored);
     stored->setLabel(u"label"_s);
     stored->setTitleRegularExpression(u"^Dr"_s);
     LMWindow* snapshot = stored->orderedMatchingWindows().front();
@@ -56,74 +28,89 @@ TEST_F(ModelTest, EveryAttributeAndRelationshipSurvivesTheStore) {
     snapshot->setHasDocument(true);
     snapshot->setChildren(QStringList{u"AXButton"_s, u"AXGroup"_s});
     snapshot->setScreenshotFilename(u"a.png"_s);
-    const QStringList before = everything(context());
-    EXPECT_GE(before.size(), 29);
+
+    const auto everything = [this] {
+        QVariantList result;
+        for (const LMAction* each : all<LMAction>())
+            result << each->label() << each->script() << each->runAs() << each->runOnDisplayChange()
+                   << each->workspace()->name();
+        for (const LMDisplay* each : all<LMDisplay>())
+            result << each->displayBounds() << each->productName() << each->vendorNumber()
+                   << each->modelNumber() << each->serialNumber() << each->workspace()->name();
+        for (const LMStoredWindow* each : all<LMStoredWindow>())
+            result << each->label() << each->titleRegularExpression() << each->frameString()
+                   << each->matchingWindowsOrdering() << each->application()->name()
+                   << each->application()->bundleIdentifier()
+                   << each->application()->windowsOrdering();
+        for (const LMWindow* each : all<LMWindow>())
+            result << each->title() << each->subrole() << each->frameString()
+                   << each->screenshotFilename() << each->children().value_or(QStringList())
+                   << each->hasToolbarButton() << each->hasGrowArea() << each->hasDocument()
+                   << each->storedWindow()->label();
+        return result;
+    };
+    const QVariantList before = everything();
+    EXPECT_EQ(before.size(), 27);
     store->saveWindows();
     reopen();
-    EXPECT_EQ(everything(context()), before);
+    EXPECT_EQ(everything(), before);
 }
 
 TEST_F(ModelTest, RecordsAreNamed) {
-    desktop.setScreens({{0, 0, 100, 100}});
     EXPECT_EQ(insert<LMWorkspace>()->name(), u"1 Display"_s);
     desktop.setScreens({{0, 0, 100, 100}, {100, 0, 100, 100}});
     EXPECT_EQ(insert<LMWorkspace>()->name(), u"2 Displays"_s);
-    EXPECT_EQ(insert<LMStoredWindow>()->title(), u"No title"_s);
-    EXPECT_EQ(insert<LMStoredWindow>()->labelOrTitleIfNil(), u"Unlabeled Window"_s);
-    LMStoredWindow* stored = storedWindow(u"first"_s);
-    stored->addMatchingWindows({window(u"second"_s)});
+    LMStoredWindow* stored = insert<LMStoredWindow>();
+    EXPECT_EQ(stored->title(), u"No title"_s);
+    EXPECT_EQ(stored->labelOrTitleIfNil(), u"Unlabeled Window"_s);
+    stored->addMatchingWindows({window(u"first"_s), window(u"second"_s)});
     EXPECT_EQ(stored->labelOrTitleIfNil(), u"first"_s);
     stored->setLabel(u"mine"_s);
     EXPECT_EQ(stored->labelOrTitleIfNil(), u"mine"_s);
 }
 
 TEST_F(ModelTest, TheOrderingKeepsStepWithTheSet) {
-    LMApplication* application = applicationIn(insert<LMWorkspace>(), u"org.editor"_s);
+    LMApplication* editor = application();
     LMStoredWindow *a = storedWindow(u"a"_s), *b = storedWindow(u"b"_s);
     LMStoredWindow *c = storedWindow(u"c"_s), *d = storedWindow(u"d"_s);
-    const auto uris = [](const std::vector<LMStoredWindow*>& windows) {
-        QStringList result;
-        for (const LMStoredWindow* window : windows)
-            result.append(window->uriRepresentation());
-        return result;
-    };
-    application->addWindows({a, b, c});
-    application->windows().addObject(d);
-    application->addWindowsObject(a); // Once is enough.
-    EXPECT_EQ(application->windowsOrdering(), uris({a, b, c, d}));
-    EXPECT_EQ(application->orderedWindows(), std::vector({a, b, c, d}));
-    application->removeWindows({a, c});
-    EXPECT_EQ(application->windowsOrdering(), uris({b, d}));
+    const QString uriA = a->uriRepresentation(), uriB = b->uriRepresentation();
+    const QString uriC = c->uriRepresentation(), uriD = d->uriRepresentation();
+    editor->addWindows({a, b, c});
+    editor->windows().addObject(d);
+    editor->addWindowsObject(a); // Once is enough.
+    EXPECT_THAT(editor->windowsOrdering(), ElementsAre(uriA, uriB, uriC, uriD));
+    EXPECT_THAT(editor->orderedWindows(), ElementsAre(a, b, c, d));
+    editor->removeWindows({a, c});
+    EXPECT_THAT(editor->windowsOrdering(), ElementsAre(uriB, uriD));
     EXPECT_EQ(a->application(), nullptr);
 
     // Another owner takes a member over: one owner at a time.
-    applicationIn(application->workspace(), u"org.viewer"_s)->addWindowsObject(d);
-    EXPECT_EQ(application->windowsOrdering(), uris({b}));
+    application(u"org.viewer"_s)->addWindowsObject(d);
+    EXPECT_THAT(editor->windowsOrdering(), ElementsAre(uriB));
 
     // Deleted, foreign and meaningless entries disappear when the list is read, in place.
-    application->addWindows({a, c});
-    application->setWindowsOrdering({u"rook://StoredWindow/999"_s, c->uriRepresentation(), u"?"_s,
-                                     d->uriRepresentation(), b->uriRepresentation(),
-                                     application->uriRepresentation(), a->uriRepresentation()});
+    editor->addWindows({a, c});
+    editor->setWindowsOrdering({u"rook://StoredWindow/999"_s, uriC, u"?"_s, uriD, uriB,
+                                editor->uriRepresentation(), uriA});
     context().deleteObject(b);
-    EXPECT_EQ(application->orderedWindows(), std::vector({c, a}));
-    EXPECT_EQ(application->windowsOrdering(), uris({c, a}));
+    EXPECT_THAT(editor->orderedWindows(), ElementsAre(c, a));
+    EXPECT_THAT(editor->windowsOrdering(), ElementsAre(uriC, uriA));
 }
 
 TEST_F(ModelTest, RemovingOneMemberDoesNotReportTheOrderingAsChanged) {
-    LMApplication* application = applicationIn(insert<LMWorkspace>(), u"org.editor"_s);
-    application->addWindows({storedWindow(u"a"_s), storedWindow(u"b"_s), storedWindow(u"c"_s)});
-    store->saveWindows();
-    application->removeWindowsObject(application->orderedWindows()[1]);
-    EXPECT_FALSE(application->hasChanges());
-    EXPECT_EQ(application->windowsOrdering().size(), 2);
+    makeStore();
+    reopen();
+    LMApplication* editor = all<LMApplication>().front();
+    editor->removeWindowsObject(editor->orderedWindows()[0]);
+    EXPECT_FALSE(editor->hasChanges());
+    EXPECT_EQ(editor->windowsOrdering().size(), 1);
     store->saveWindows();
     reopen();
-    application = context().objects<LMApplication>().front();
-    EXPECT_EQ(application->windowsOrdering().size(), 3); // As it stands in the file, until read.
-    EXPECT_EQ(titles(application->orderedWindows()), QStringList({u"a"_s, u"c"_s}));
-    EXPECT_EQ(application->windowsOrdering().size(), 2);
+    editor = all<LMApplication>().front();
+    EXPECT_EQ(editor->windowsOrdering().size(), 2); // As it stands in the file, until read.
+    EXPECT_EQ(titles(editor->orderedWindows()), QStringList(u"b"_s));
+    EXPECT_EQ(editor->windowsOrdering().size(), 1);
 
-    application->removeWindows({application->orderedWindows().front()});
-    EXPECT_TRUE(application->hasChanges());
+    editor->removeWindows({editor->orderedWindows().front()});
+    EXPECT_TRUE(editor->hasChanges());
 }

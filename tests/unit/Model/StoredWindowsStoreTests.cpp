@@ -1,25 +1,23 @@
 // SPDX-License-Identifier: MIT
 #include "ModelTest.h"
 
-#include "Utilities/LMUserDefaultsKeys.h"
-
 TEST_F(ModelTest, FailuresToOpenSayWhatIsWrong) {
     ASSERT_TRUE(QDir().mkpath(path()));
     EXPECT_EQ(store->open().error().failure, LMStoreFailure::StoreCannotBeAdded);
-    EXPECT_TRUE(world.hasLogged(u"Stored Windows.sqlite: not a file"_s));
-    EXPECT_EQ(world.messages.size(), 1); // Asked twice, tried and reported once.
+    EXPECT_TRUE(test.hasLogged(u"Stored Windows.sqlite: not a file"_s));
+    EXPECT_EQ(test.messages.size(), 1); // Asked twice, tried and reported once.
 
     // Whoever goes on regardless works in memory and harms nothing.
     insert<LMWorkspace>();
     store->cleanWindows();
     store->saveWindows();
-    EXPECT_TRUE(world.hasLogged(u"Save failed: "_s));
+    EXPECT_TRUE(test.hasLogged(u"Save failed: "_s));
     EXPECT_TRUE(QFileInfo(path()).isDir());
 
-    EXPECT_EQ(LMStoredWindowsStore(world.environment, {}, nullptr).open().error().failure,
+    EXPECT_EQ(LMStoredWindowsStore(environment, {}, nullptr).open().error().failure,
               LMStoreFailure::ModelMissing);
-    ASSERT_TRUE(QDir(world.path(u"Rook"_s)).removeRecursively());
-    write(world.path(u"Rook"_s));
+    ASSERT_TRUE(QDir(test.path(u"Rook"_s)).removeRecursively());
+    write(test.path(u"Rook"_s));
     reopen();
     EXPECT_EQ(store->open().error().failure, LMStoreFailure::FoldersCannotBeMade);
 }
@@ -31,91 +29,81 @@ TEST_F(ModelTest, SavingDeletesWhatNothingOwnsAndReloadsTables) {
         return false;
     });
     store->setReloadTablesHandler([&] { calls.append(u"reload"_s); });
-    auto* workspace = insert<LMWorkspace>();
-    applicationIn(workspace, u"org.kept"_s)->addWindowsObject(storedWindow(u"kept"_s));
-    LMApplication* dropped = applicationIn(workspace, u"org.dropped"_s);
+    LMApplication* dropped = application(u"org.dropped"_s);
+    application(u"org.kept"_s, dropped->workspace())->addWindowsObject(storedWindow(u"kept"_s));
     dropped->addWindows({storedWindow(u"x"_s), storedWindow(u"y"_s)});
     store->saveWindows();
-    EXPECT_EQ(calls, QStringList({u"commit"_s, u"reload"_s}));
-    EXPECT_EQ(world.messages, QStringList(u"Commit editing failed."_s));
+    EXPECT_THAT(calls, ElementsAre(u"commit"_s, u"reload"_s));
+    EXPECT_THAT(test.messages, ElementsAre(u"Commit editing failed."_s));
 
-    workspace->removeApplicationsObject(dropped);
+    dropped->workspace()->removeApplicationsObject(dropped);
     insert<LMAction>();
     insert<LMDisplay>();
     storedWindow(u"compared only"_s);
     store->saveWindows();
     reopen();
-    EXPECT_EQ(context().objects<LMApplication>().size(), 1u);
+    EXPECT_EQ(all<LMApplication>().size(), 1u);
     EXPECT_EQ(storedTitles(), QStringList(u"kept"_s));
-    EXPECT_EQ(context().objects<LMWindow>().size(), 1u);
-    EXPECT_EQ(context().objects<LMDisplay>().size(), 1u);
-    EXPECT_TRUE(context().objects<LMAction>().empty());
+    EXPECT_EQ(all<LMWindow>().size(), 1u);
+    EXPECT_EQ(all<LMDisplay>().size(), 1u);
+    EXPECT_TRUE(all<LMAction>().empty());
 }
 
 TEST_F(ModelTest, CleaningDeletesEmptyWorkspacesAndScreenshotsThatNothingNeeds) {
-    const QString folder = world.folders.screenshotsDirectoryURL() + u'/';
-    const QString used = write(folder + u"used.png"_s);
-    const QString stale = write(folder + u"stale.png"_s);
-    const QString notes = write(folder + u"notes.txt"_s);
+    const QDir folder(test.folders.screenshotsDirectoryURL());
+    for (const QString& name : {u"used.png"_s, u"stale.png"_s, u"notes.txt"_s})
+        write(folder.filePath(name));
     LMStoredWindow* stored = storedWindow(u"w"_s);
     stored->orderedMatchingWindows().front()->setScreenshotFilename(u"used.png"_s);
-    applicationIn(insert<LMWorkspace>(), u"org.editor"_s)->addWindowsObject(stored);
+    application()->addWindowsObject(stored);
     insert<LMWorkspace>()->addActionsObject(insert<LMAction>());
     insert<LMWorkspace>();
     store->saveWindows();
-
-    world.userDefaults.setObject(LMUserDefaultsKeys::CreateScreenshotsWhenStoringWindows, true);
-    store->cleanWindows();
-    EXPECT_TRUE(QFile::exists(used) && QFile::exists(notes));
-    EXPECT_FALSE(QFile::exists(stale));
-    world.userDefaults.setObject(LMUserDefaultsKeys::CreateScreenshotsWhenStoringWindows, false);
-    store->cleanWindows();
-    EXPECT_FALSE(QFile::exists(used));
-    EXPECT_TRUE(QFile::exists(notes) && world.messages.isEmpty());
+    const auto filesAfterCleaning = [&](bool createsScreenshots) {
+        defaults.setObject(Keys::CreateScreenshotsWhenStoringWindows, createsScreenshots);
+        store->cleanWindows();
+        return folder.entryList(QDir::Files);
+    };
+    EXPECT_THAT(filesAfterCleaning(true), ElementsAre(u"notes.txt"_s, u"used.png"_s));
+    EXPECT_THAT(filesAfterCleaning(false), ElementsAre(u"notes.txt"_s));
+    EXPECT_TRUE(test.messages.isEmpty());
     store->saveWindows();
     reopen();
-    EXPECT_EQ(context().objects<LMWorkspace>().size(), 2u);
+    EXPECT_EQ(all<LMWorkspace>().size(), 2u);
 }
 
 TEST_F(ModelTest, ANewerProgramBacksTheStoreUp) {
+    using enum LMBackupResult;
     const QString first = u"Stored Windows 1.1 (2014-05-06).sqlite"_s;
     const QString second = u"Stored Windows 1.2 (2014-05-06).sqlite"_s;
-    const struct {
-        QString version;
-        LMBackupResult result;
-        QString recorded;
-        QStringList backups;
-    } launches[] = {
-        {u"1.1"_s, LMBackupResult::FirstLaunch, u"1.1"_s, {}},
-        {u"1.1"_s, LMBackupResult::SameVersion, u"1.1"_s, {}},
-        {u"1.2"_s, LMBackupResult::BackedUp, u"1.2"_s, {first}},
-        {u"1.2b3"_s, LMBackupResult::NewerVersion, u"1.2"_s, {first}},
-        {u"1.3"_s, LMBackupResult::BackedUp, u"1.3"_s, {first, second}},
+    const std::tuple<QString, LMBackupResult, QString, QStringList> launches[] = {
+        {u"1.1"_s, FirstLaunch, u"1.1"_s, {}},
+        {u"1.1"_s, SameVersion, u"1.1"_s, {}},
+        {u"1.2"_s, BackedUp, u"1.2"_s, {first}},
+        {u"1.2b3"_s, NewerVersion, u"1.2"_s, {first}},
+        {u"1.3"_s, BackedUp, u"1.3"_s, {first, second}},
     };
-    world.clock.setNow(QDateTime(QDate(2014, 5, 6), QTime(12, 0)));
-    const QDir folder(world.folders.backupsDirectoryURL());
-    const auto recorded = [&] {
-        return world.userDefaults.stringForKey(LMUserDefaultsKeys::RookVersion);
-    };
-    for (const auto& launch : launches) {
-        reopen(launch.version);
+    test.clock.setNow(QDateTime(QDate(2014, 5, 6), QTime(12, 0)));
+    const QDir folder(test.folders.backupsDirectoryURL());
+    for (const auto& [version, result, recorded, backups] : launches) {
+        reopen(version);
         insert<LMWorkspace>();
         store->saveWindows();
-        EXPECT_EQ(store->backupStoredWindowsIfNecessary(), launch.result);
-        EXPECT_EQ(recorded(), launch.recorded);
-        EXPECT_EQ(QDir(folder).entryList(QDir::Files), launch.backups);
+        EXPECT_EQ(store->backupStoredWindowsIfNecessary(), result);
+        EXPECT_EQ(defaults.stringForKey(Keys::RookVersion), recorded);
+        EXPECT_EQ(QDir(folder).entryList(QDir::Files), backups);
     }
     // The copy is a store in its own right, with what was stored at the time.
     store.reset();
-    ASSERT_TRUE(QFile::remove(path()) && QFile::copy(folder.filePath(second), path()));
+    write(path(), content(folder.filePath(second)));
     reopen();
-    EXPECT_EQ(context().objects<LMWorkspace>().size(), 5u);
+    EXPECT_EQ(all<LMWorkspace>().size(), 5u);
 
     // A backup that fails is no reason to stop.
     ASSERT_TRUE(QDir(folder).removeRecursively());
     write(folder.path());
-    world.userDefaults.setObject(LMUserDefaultsKeys::RookVersion, u"0.9"_s);
-    EXPECT_EQ(store->backupStoredWindowsIfNecessary(), LMBackupResult::BackedUp);
-    EXPECT_EQ(recorded(), u"1.0"_s);
-    EXPECT_TRUE(world.hasLogged(u"not backed up"_s));
+    defaults.setObject(Keys::RookVersion, u"0.9"_s);
+    EXPECT_EQ(store->backupStoredWindowsIfNecessary(), BackedUp);
+    EXPECT_EQ(defaults.stringForKey(Keys::RookVersion), u"1.0"_s);
+    EXPECT_TRUE(test.hasLogged(u"not backed up"_s));
 }
