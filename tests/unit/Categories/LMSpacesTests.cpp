@@ -4,24 +4,18 @@
 #include "unit/DesktopTest.h"
 
 TEST_F(DesktopTest, SpacesAreInUseWhenAMonitorHasSeveral) {
-    const QString one = u"1"_s, two = u"2"_s, dashboard = u"dashboard"_s;
-    const std::pair<QList<QStringList>, bool> cases[] = {
-        {{}, false},
-        {{{}}, false},
-        {{{one}, {two}}, false},
-        {{{one, dashboard}}, false},
-        {{{dashboard, one, two}}, true},
-        {{{one}, {one, two}}, true},
-    };
-    for (const auto& [spaces, areInUse] : cases) {
+    const QStringList one{u"1"_s}, other{u"2"_s}, two{u"1"_s, u"2"_s};
+    const QStringList oneAndDashboard{u"1"_s, u"dashboard"_s};
+    const auto areInUse = [&](const QList<QStringList>& spaces) {
         desktop.world().spaces = spaces;
-        EXPECT_EQ(LMSpacesInUse(environment), areInUse);
-    }
-    defaults.setObject(Keys::DisableSpacesSupport, true);
-    EXPECT_FALSE(LMSpacesInUse(environment));
+        return LMSpacesInUse(environment);
+    };
+    for (const auto& spaces : QList<QList<QStringList>>{{}, {{}}, {one, other}, {oneAndDashboard}})
+        EXPECT_FALSE(areInUse(spaces));
+    EXPECT_TRUE(areInUse({one, two}));
+    EXPECT_TRUE(areInUse({two + oneAndDashboard}));
     defaults.setObject(Keys::EnableSpacesSupport, true);
-    EXPECT_FALSE(LMSpacesInUse(environment)) << "disabling wins";
-    defaults.setObject(Keys::DisableSpacesSupport, false);
-    desktop.world().spaces = {};
-    EXPECT_TRUE(LMSpacesInUse(environment));
+    EXPECT_TRUE(areInUse({}));
+    defaults.setObject(Keys::DisableSpacesSupport, true);
+    EXPECT_FALSE(areInUse({two})) << "disabling wins";
 }

@@ -43,7 +43,8 @@ TEST(Invocation, NamesTheMethodAndItsArguments) {
         EXPECT_EQ(invocation.kind, kind) << method;
         EXPECT_EQ(invocation.method, QLatin1String(method));
         EXPECT_EQ(invocation.arguments, values) << method;
-        EXPECT_EQ(invocation.wantsJson, arguments.size() == 3 && method == "Plan"_L1);
+        EXPECT_EQ(invocation.wantsJson, arguments.size() == 3 && QLatin1String(method) == "Plan"_L1)
+            << method;
     }
 }
 

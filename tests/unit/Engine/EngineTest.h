@@ -30,6 +30,11 @@ protected:
         desktop.log().clear();
         return *application;
     }
+    /// The same for a new application "app" with these windows.
+    LMApplication& store(const QList<LMFakeWindow>& windows = {LMFakeWindow()}) {
+        elements = launch(u"app"_s, windows);
+        return stored(u"app"_s);
+    }
     LMWindow* live(const LMElement& element) {
         return LMWindow::windowWithElement(context, element);
     }
@@ -49,6 +54,7 @@ protected:
         return result.join(u", "_s);
     }
 
+    QList<LMElement> elements; ///< The windows of "app".
     const QRectF left{0, 0, 300, 200};
     const QRectF right{400, 0, 350, 250};
     const QString floating = u"AXFloatingWindow"_s;

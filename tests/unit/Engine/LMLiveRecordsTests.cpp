@@ -20,7 +20,7 @@ TEST_F(LiveRecordsTest, ReadsWindowsAndRefusesWhatIsNone) {
     };
     desktop.addApplication(u"app"_s);
     for (const auto& [name, change, isRead] : rows) {
-        W window{u""_s, left, u""_s, {u"AXGroup"_s}, .hasGrowArea = false};
+        W window{u""_s, left, u""_s, {u"AXGroup"_s}, false, false};
         change(window);
         EXPECT_EQ(live(desktop.addWindow(u"app"_s, window)) != nullptr, isRead) << name;
     }
@@ -37,8 +37,7 @@ TEST_F(LiveRecordsTest, ReadsWindowsAndRefusesWhatIsNone) {
 }
 
 TEST_F(LiveRecordsTest, ReadsAllWindowsAtOnceAndLosesOnlyThoseThatVanish) {
-    launch(u"app"_s);
-    LMApplication& application = stored(u"app"_s);
+    LMApplication& application = store();
     const auto read = [&] {
         const int before = desktop.world().roundTrips;
         const std::size_t count = application.currentWindows().size();
@@ -69,8 +68,7 @@ TEST_F(LiveRecordsTest, HandlesApplicationsWithWindowsOfTheirOwn) {
 }
 
 TEST_F(LiveRecordsTest, GivesEachWindowAPictureOfItsOwn) {
-    const auto elements = launch(u"app"_s, {{u"A"_s, left}, {u"B"_s, left}, {u"C"_s, right}});
-    LMApplication& application = stored(u"app"_s);
+    LMApplication& application = store({{u"A"_s, left}, {u"B"_s, left}, {u"C"_s, right}});
     const std::vector<LMWindow*> windows = application.currentWindows();
     desktop.window(elements[2]).hasImage = false;
     application.attachScreenshotsToWindows(windows);

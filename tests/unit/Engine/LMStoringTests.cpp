@@ -12,8 +12,7 @@ TEST_F(StoringTest, ShowsTheApplicationAndPutsItBack) {
         {false, true, u"hide app, unhide app"_s},
         {true, true, u"hide app, hide app"_s},
     };
-    launch(u"app"_s);
-    LMApplication& application = stored(u"app"_s);
+    LMApplication& application = store();
     for (const auto& [isHidden, areSpacesInUse, expected] : rows) {
         defaults.setObject(Keys::EnableSpacesSupport, areSpacesInUse);
         setHidden(u"app"_s, isHidden);
@@ -24,8 +23,7 @@ TEST_F(StoringTest, ShowsTheApplicationAndPutsItBack) {
 }
 
 TEST_F(StoringTest, StoresEveryWindowAnew) {
-    launch(u"app"_s, {{u"A"_s, left}, {u"B"_s, right}});
-    LMApplication& application = stored(u"app"_s);
+    LMApplication& application = store({{u"A"_s, left}, {u"B"_s, right}});
     application.removeAllWindows();
     EXPECT_TRUE(application.windows().isEmpty() && application.windowsOrdering().isEmpty());
     application.storeFloatingWindows();
@@ -45,8 +43,8 @@ TEST_F(StoringTest, StoresEveryWindowAnew) {
 }
 
 TEST_F(StoringTest, ReplacesTheFocusedWindowAndPutsItFirst) {
-    const LMElement focused = launch(u"app"_s, {{u"A"_s, left}, {u"B"_s, left}})[1];
-    LMApplication& application = stored(u"app"_s);
+    LMApplication& application = store({{u"A"_s, left}, {u"B"_s, left}});
+    const LMElement& focused = elements[1];
     desktop.focus(focused);
     desktop.window(focused).frame = right;
     application.storeFocusedWindow(nullptr);
@@ -65,8 +63,7 @@ TEST_F(StoringTest, ReplacesTheFocusedWindowAndPutsItFirst) {
 }
 
 TEST_F(StoringTest, LinksAWindowToTheStoredWindowChosen) {
-    const auto elements = launch(u"app"_s, {{u"A"_s, left}, {u"B"_s, right}});
-    LMApplication& application = stored(u"app"_s);
+    LMApplication& application = store({{u"A"_s, left}, {u"B"_s, right}});
     const std::vector<LMStoredWindow*> all = application.orderedWindows();
 
     // Its own: only moved.

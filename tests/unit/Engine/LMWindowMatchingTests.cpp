@@ -120,16 +120,6 @@ TEST_F(MatchingTest, SaysWhatDecided) {
     }
 }
 
-TEST_F(MatchingTest, GivesEachDocumentItsOwnFrameWhateverTheirOrder) {
-    auto *one = storedWindow(u"One"_s), *two = storedWindow(u"Two"_s), *three = storedWindow({});
-    const LMRestorePlan plan = LMPlanRestore({&window(u"Two"_s), &window(u"One"_s)},
-                                             {one, two, three}, environment.regexCache);
-    ASSERT_EQ(plan.assignments.size(), 2U);
-    EXPECT_EQ(plan.assignments[0].match.storedWindow, two);
-    EXPECT_EQ(plan.assignments[1].match.storedWindow, one);
-    EXPECT_THAT(plan.unmatchedStoredWindows, ElementsAre(three));
-}
-
 TEST_F(MatchingTest, PaysForACatastrophicPatternOnce) {
     std::vector<LMWindow*> live;
     for (int index = 0; index < 300; ++index)

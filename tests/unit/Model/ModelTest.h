@@ -9,10 +9,11 @@
 #include "Model/LMWindow.h"
 #include "Model/LMWorkspace.h"
 #include "Model/Store/LMObjectContext.h"
+#include "Model/Store/LMObjectModel.h"
 #include "unit/DesktopTest.h"
+#include "unit/Files.h"
 
 #include <QDir>
-#include <QFile>
 
 using testing::ElementsAre;
 
@@ -23,6 +24,11 @@ protected:
     void reopen(const QString& version = u"1.0"_s) {
         store.reset();
         store = std::make_unique<LMStoredWindowsStore>(environment, version);
+    }
+
+    void saveAndReopen() {
+        store->saveWindows();
+        reopen();
     }
 
     template <class T>
@@ -65,17 +71,6 @@ protected:
     QStringList storedTitles() { return titles(all<LMStoredWindow>()); }
 
     QString path() const { return test.folders.storedWindowsURL(); }
-    static QString write(const QString& path, const QByteArray& content = "x") {
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        return path;
-    }
-    static QByteArray content(const QString& path) {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
     std::unique_ptr<LMStoredWindowsStore> store =
         std::make_unique<LMStoredWindowsStore>(environment, u"1.0"_s);
 };

@@ -51,8 +51,7 @@ TEST_F(ModelTest, EveryAttributeAndRelationshipSurvivesTheStore) {
     };
     const QVariantList before = everything();
     EXPECT_EQ(before.size(), 27);
-    store->saveWindows();
-    reopen();
+    saveAndReopen();
     EXPECT_EQ(everything(), before);
 }
 
@@ -104,8 +103,7 @@ TEST_F(ModelTest, RemovingOneMemberDoesNotReportTheOrderingAsChanged) {
     editor->removeWindowsObject(editor->orderedWindows()[0]);
     EXPECT_FALSE(editor->hasChanges());
     EXPECT_EQ(editor->windowsOrdering().size(), 1);
-    store->saveWindows();
-    reopen();
+    saveAndReopen();
     editor = all<LMApplication>().front();
     EXPECT_EQ(editor->windowsOrdering().size(), 2); // As it stands in the file, until read.
     EXPECT_EQ(titles(editor->orderedWindows()), QStringList(u"b"_s));

@@ -24,7 +24,7 @@ protected:
 
 TEST_F(StoreFileTest, RefusedStoresStayAsTheyAre) {
     makeStore();
-    const QByteArray good = content(path());
+    const QByteArray good = LMFileContent(path());
     const QByteArray noise(20'000, 'g');
     const qint64 size = good.size();
     const QFileInfo file(path());
@@ -47,10 +47,10 @@ TEST_F(StoreFileTest, RefusedStoresStayAsTheyAre) {
         {"read-only folder", [&] { QFile(file.path()).setPermissions(folderOnly); },
          "not writable"},
         {"directory", [&] { remove(), QDir().mkpath(path()); }, "not a file"},
-        {"pipe", [&] { remove(), ::mkfifo(QFile::encodeName(path()), 0600); }, "not a file"},
+        {"pipe", [&] { remove(), ::mkfifo(path().toUtf8().data(), 0600); }, "not a file"},
     };
     const auto state = [&] {
-        return std::pair(QFileInfo(path()).isFile() ? content(path()) : QByteArray(),
+        return std::pair(QFileInfo(path()).isFile() ? LMFileContent(path()) : QByteArray(),
                          file.dir().entryList(QDir::AllEntries | QDir::System));
     };
     for (const auto& [name, spoil, reason] : rows) {
@@ -66,14 +66,14 @@ TEST_F(StoreFileTest, RefusedStoresStayAsTheyAre) {
         QFile(file.path()).setPermissions(folderOnly | QFile::WriteOwner);
         remove();
         QDir().rmdir(path());
-        write(path(), good);
+        LMWriteFile(path(), good);
     }
     reopen();
     EXPECT_EQ(storedTitles(), QStringList({u"a"_s, u"b"_s}));
 }
 
 TEST_F(StoreFileTest, AnEmptyFileBecomesAStoreWithOneHolderAtATime) {
-    write(path(), {});
+    LMWriteFile(path(), {});
     insert<LMWorkspace>();
     EXPECT_TRUE(test.hasLogged(u"is empty"_s));
     EXPECT_TRUE(context().save());

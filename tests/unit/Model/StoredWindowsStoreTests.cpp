@@ -17,7 +17,7 @@ TEST_F(ModelTest, FailuresToOpenSayWhatIsWrong) {
     EXPECT_EQ(LMStoredWindowsStore(environment, {}, nullptr).open().error().failure,
               LMStoreFailure::ModelMissing);
     ASSERT_TRUE(QDir(test.path(u"Rook"_s)).removeRecursively());
-    write(test.path(u"Rook"_s));
+    LMWriteFile(test.path(u"Rook"_s));
     reopen();
     EXPECT_EQ(store->open().error().failure, LMStoreFailure::FoldersCannotBeMade);
 }
@@ -40,8 +40,7 @@ TEST_F(ModelTest, SavingDeletesWhatNothingOwnsAndReloadsTables) {
     insert<LMAction>();
     insert<LMDisplay>();
     storedWindow(u"compared only"_s);
-    store->saveWindows();
-    reopen();
+    saveAndReopen();
     EXPECT_EQ(all<LMApplication>().size(), 1u);
     EXPECT_EQ(storedTitles(), QStringList(u"kept"_s));
     EXPECT_EQ(all<LMWindow>().size(), 1u);
@@ -52,7 +51,7 @@ TEST_F(ModelTest, SavingDeletesWhatNothingOwnsAndReloadsTables) {
 TEST_F(ModelTest, CleaningDeletesEmptyWorkspacesAndScreenshotsThatNothingNeeds) {
     const QDir folder(test.folders.screenshotsDirectoryURL());
     for (const QString& name : {u"used.png"_s, u"stale.png"_s, u"notes.txt"_s})
-        write(folder.filePath(name));
+        LMWriteFile(folder.filePath(name));
     LMStoredWindow* stored = storedWindow(u"w"_s);
     stored->orderedMatchingWindows().front()->setScreenshotFilename(u"used.png"_s);
     application()->addWindowsObject(stored);
@@ -67,8 +66,7 @@ TEST_F(ModelTest, CleaningDeletesEmptyWorkspacesAndScreenshotsThatNothingNeeds) 
     EXPECT_THAT(filesAfterCleaning(true), ElementsAre(u"notes.txt"_s, u"used.png"_s));
     EXPECT_THAT(filesAfterCleaning(false), ElementsAre(u"notes.txt"_s));
     EXPECT_TRUE(test.messages.isEmpty());
-    store->saveWindows();
-    reopen();
+    saveAndReopen();
     EXPECT_EQ(all<LMWorkspace>().size(), 2u);
 }
 
@@ -95,13 +93,13 @@ TEST_F(ModelTest, ANewerProgramBacksTheStoreUp) {
     }
     // The copy is a store in its own right, with what was stored at the time.
     store.reset();
-    write(path(), content(folder.filePath(second)));
+    LMWriteFile(path(), LMFileContent(folder.filePath(second)));
     reopen();
     EXPECT_EQ(all<LMWorkspace>().size(), 5u);
 
     // A backup that fails is no reason to stop.
     ASSERT_TRUE(QDir(folder).removeRecursively());
-    write(folder.path());
+    LMWriteFile(folder.path());
     defaults.setObject(Keys::RookVersion, u"0.9"_s);
     EXPECT_EQ(store->backupStoredWindowsIfNecessary(), BackedUp);
     EXPECT_EQ(defaults.stringForKey(Keys::RookVersion), u"1.0"_s);

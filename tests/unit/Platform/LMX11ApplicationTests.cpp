@@ -10,28 +10,27 @@
 
 namespace {
 
-LMX11ApplicationWindow window(xcb_window_t number, const char* identifier, qint64 process,
+LMX11ApplicationWindow window(xcb_window_t number, const QString& name, qint64 process,
                               quint64 startTime, bool isListed = true) {
-    const QString name = QLatin1String(identifier);
     return {number, name, name, process, startTime, isListed};
 }
 
 TEST(LMX11ApplicationTests, GathersWindowsOfManyProcesses) {
     LMX11ApplicationTable table;
     // Process 20 is older than 10: process identifiers come round again.
-    table.update({window(1, "b", 30, 300), window(2, "a", 10, 200), window(3, "a", 20, 100),
-                  window(4, "a", 20, 100, false)},
+    table.update({window(1, u"b"_qs, 30, 300), window(2, u"a"_qs, 10, 200),
+                  window(3, u"a"_qs, 20, 100), window(4, u"a"_qs, 20, 100, false)},
                  {4, 3, 1, 2});
     ASSERT_EQ(table.applications().size(), 2);
     EXPECT_EQ(table.applications().at(1), (LMX11Application{u"a"_qs, u"a"_qs, 20, {3, 2}, {4}}));
     EXPECT_EQ(table.application(10), &table.applications().at(1)) << "by its younger process";
 
     // The oldest process ends; what was handed out still leads to the application.
-    table.update({window(2, "a", 10, 200), window(1, "b", 30, 300)}, {1, 2});
+    table.update({window(2, u"a"_qs, 10, 200), window(1, u"b"_qs, 30, 300)}, {1, 2});
     EXPECT_EQ(table.applications().at(0).bundleIdentifier, u"b"_qs) << "launched first";
     EXPECT_EQ(table.applications().at(1).processIdentifier, 10);
     EXPECT_EQ(table.application(20), table.applicationWithIdentifier(u"a"_qs));
-    table.update({window(5, "b", 30, 0), window(6, "b", 40, 5)}, {5, 6});
+    table.update({window(5, u"b"_qs, 30, 0), window(6, u"b"_qs, 40, 5)}, {5, 6});
     EXPECT_EQ(table.application(20), nullptr);
     EXPECT_EQ(table.applications().at(0).processIdentifier, 40)
         << "an unknown start is no early one";
@@ -42,62 +41,47 @@ TEST(LMX11ApplicationTests, FindsTheProcessOfAWindow) {
         if (process > 100) // Ended, or another user's.
             return std::nullopt;
         LMProcessInformation information;
-        information.processIdentifier = process;
         information.executable = process == 66 ? u"/usr/bin/ssh"_qs : u"/usr/bin/prog"_qs;
         return information;
     };
-    const struct {
-        const char* what;
-        qint64 ofServer;
-        qint64 claimed;
-        const char* machine;
-        qint64 expected; ///< 0 for that of the client leader.
-        bool isReadable;
-    } rows[] = {
+    const qint64 leader = LMX11ApplicationTable::processOfClientLeader(7);
+    // What the server knows, what the window claims, and the computer it claims it of.
+    const std::tuple<const char*, qint64, qint64, const char*, qint64, bool> rows[] = {
         {"the server knows best", 10, 20, "here", 10, true},
         {"container with a name of its own", 10, 2, "elsewhere", 10, true},
         {"the server has no such extension", 0, 20, "here", 20, true},
         {"full name of the computer", 0, 20, "HERE.example.org", 20, true},
-        {"claim from another computer", 0, 20, "there", 0, false},
-        {"claim without a computer", 0, 20, "", 0, false},
+        {"claim from another computer", 0, 20, "there", leader, false},
+        {"claim without a computer", 0, 20, "", leader, false},
         {"the process that connected has ended", 500, 20, "here", 20, true},
         {"both have ended", 500, 600, "here", 500, false},
-        {"forwarded", 66, 20, "there", 0, false},
+        {"forwarded", 66, 20, "there", leader, false},
         {"forwarding to oneself", 66, 20, "here", 20, true},
-        {"nothing known", 0, 0, "", 0, false},
+        {"nothing known", 0, 0, "", leader, false},
     };
-    const qint64 leader = LMX11ApplicationTable::processOfClientLeader(7);
-    for (const auto& row : rows) {
-        LMX11ApplicationFacts facts;
-        facts.serverProcess = row.ofServer;
-        facts.claimedProcess = row.claimed;
-        facts.clientMachine = QLatin1String(row.machine);
-        facts.leader = 7;
-        const LMX11WindowProcess process = LMX11ProcessOfWindow(facts, u"here"_qs, read);
-        EXPECT_EQ(process.identifier, row.expected != 0 ? row.expected : leader) << row.what;
-        EXPECT_EQ(process.information.has_value(), row.isReadable) << row.what;
+    for (const auto& [what, ofServer, claimed, machine, expected, isReadable] : rows) {
+        const auto process = LMX11ProcessOfWindow(
+            {{}, ofServer, claimed, QLatin1String(machine), 7}, u"here"_qs, read);
+        EXPECT_EQ(process.identifier, expected) << what;
+        EXPECT_EQ(process.information.has_value(), isReadable) << what;
     }
 }
 
 TEST(LMX11ApplicationTests, PicksTheBestOfAWindowsIcons) {
     std::vector<uint32_t> icons;
-    const auto add = [&icons](uint32_t width, uint32_t height, uint32_t pixel) {
+    for (const auto& [width, height, pixel] :
+         {std::tuple(16u, 16u, 0xff000010), {64u, 48u, 0xff000040}, {32u, 32u, 0xff000020}}) {
         icons.insert(icons.end(), {width, height});
         icons.insert(icons.end(), size_t(width) * height, pixel);
-    };
-    add(16, 16, 0xff000010);
-    add(64, 48, 0xff000040);
-    add(32, 32, 0xff000020);
+    }
     const std::pair<int, QRgb> rows[] = {{8, 0xff000010}, {17, 0xff000020}, {256, 0xff000040}};
     for (const auto& [size, pixel] : rows)
         EXPECT_EQ(LMX11BestIcon(icons, size).pixel(0, 0), pixel) << size;
     EXPECT_EQ(LMX11BestIcon(icons, 64).size(), QSize(64, 48));
 
-    // clang-format off
-    const std::vector<uint32_t> malformed[] = {{}, {16}, {16, 16}, {16, 16, 1}, {0, 0, 1}, {0xffffffff, 0xffffffff, 1}, {0x10000, 0x10000, 1}};
-    // clang-format on
-    for (const auto& words : malformed)
-        EXPECT_TRUE(LMX11BestIcon(words, 16).isNull());
+    for (const std::vector<uint32_t>& malformed : std::initializer_list<std::vector<uint32_t>>{
+             {}, {16}, {16, 16}, {16, 16, 1}, {0, 0, 1}, {~0u, ~0u, 1}, {0x10000, 0x10000, 1}})
+        EXPECT_TRUE(LMX11BestIcon(malformed, 16).isNull());
     icons.resize(icons.size() - 1);
     EXPECT_EQ(LMX11BestIcon(icons, 32).size(), QSize(64, 48)) << "the last one is cut off";
 }

@@ -13,17 +13,16 @@ public:
         snapshot.maximumRootSize = {8192, 4096};
     }
 
-    /// A lit CRTC and the monitor the server makes for it.
-    LMX11SnapshotBuilder& picture(const QRect& geometry, bool isPrimary = false) {
-        const quint32 crtc = addCrtc(geometry);
-        LMX11Monitor monitor;
-        monitor.name = snapshot.outputs.last().name;
-        monitor.geometry = geometry;
-        monitor.isPrimary = isPrimary;
-        monitor.outputs = {crtc + 100};
-        snapshot.monitors.append(monitor);
-        if (isPrimary)
-            snapshot.primaryOutput = crtc + 100;
+    /// Lit CRTCs and the monitors the server makes for them.
+    LMX11SnapshotBuilder& pictures(const QList<QRect>& geometries, int primary = -1) {
+        for (int index = 0; index < geometries.size(); ++index) {
+            const quint32 output = addCrtc(geometries[index]) + 100;
+            monitor(snapshot.outputs.last().name, geometries[index], {output});
+            snapshot.monitors.last().isAutomatic = true;
+            snapshot.monitors.last().isPrimary = index == primary;
+            if (index == primary)
+                snapshot.primaryOutput = output;
+        }
         return *this;
     }
 
@@ -38,14 +37,17 @@ public:
     /// A monitor of the user's.
     LMX11SnapshotBuilder& monitor(const QString& name, const QRect& geometry,
                                   const QList<quint32>& outputs) {
-        LMX11Monitor monitor;
-        monitor.name = name;
-        monitor.geometry = geometry;
-        monitor.outputs = outputs;
-        monitor.isAutomatic = false;
-        snapshot.monitors.append(monitor);
+        snapshot.monitors.append({0, name, geometry, {}, false, false, outputs});
         return *this;
     }
 
     LMX11ScreensSnapshot snapshot;
 };
+
+/// One wide picture, of which the user made two halves as "xrandr --setmonitor" does.
+inline LMX11SnapshotBuilder LMX11SplitPicture(const QSize& rootSize = {4360, 1440}) {
+    LMX11SnapshotBuilder builder(rootSize);
+    builder.addCrtc({0, 0, 3440, 1440});
+    return builder.monitor(QStringLiteral("left"), {0, 0, 1720, 1440}, {101})
+        .monitor(QStringLiteral("right"), {1720, 0, 1720, 1440}, {});
+}

