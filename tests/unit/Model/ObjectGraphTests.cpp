@@ -13,7 +13,8 @@ TEST_F(ModelTest, HostileTextsComeBackAsTheyWere) {
     for (const QString& text : texts)
         window(text)->setChildren(QStringList{text + u""_s, u"next"_s});
     window(u"full"_s)->setChildren(QStringList());
-    saveAndReopen();
+    ASSERT_TRUE(context().save());
+    reopen();
     ASSERT_EQ(all<LMWindow>().size(), 7u);
     for (qsizetype i = 0; i < texts.size(); ++i) {
         const LMWindow* loaded = all<LMWindow>()[static_cast<std::size_t>(i)];

@@ -95,7 +95,7 @@ TEST(LMApplicationIdentityTests, ClimbsTheLadder) {
         {"in a Snap's group", {"", "Foo", "/usr/bin/foo", inCode}, "foo", WMClass},
         {"web application", {"crx_a", "Google-chrome"}, "chrome-a-Default", StartupWMClass},
         {"two entries with the same last part", {"viewer", "Viewer"}, "viewer", WMClass},
-        {"entry the user deleted", {"removed", "X", "/usr/bin/removed"}, "removed", WMClass},
+        {"entry the user deleted", {"", "removed", "/usr/bin/removed"}, "removed", WMClass},
         {"script", {.wmClass = "Win", .executable = python, .script = tuner}, "tuner", Program},
         {"plain start", {"", "Z", "/usr/bin/google-chrome-stable"}, "google-chrome", Program},
         {"from another computer", {"", "Foo", "/usr/bin/ssh", inKate}, "foo", WMClass},
