@@ -47,9 +47,16 @@ public:
     /// Name and version of the window manager in force; empty when there is none.
     virtual QString windowManagerName() const = 0;
 
+    /// Whether the display system itself has a place for status icons now. Places that are reached
+    /// over the session bus do not count: those work the same everywhere.
+    virtual bool hasSystemTray() = 0;
+
 Q_SIGNALS:
     /// The back end has lost its server for good. Emitted once.
     void connectionLost(const QString& reason);
+
+    /// There is such a place from now on, for the first time or again.
+    void systemTrayAppeared();
 
 protected:
     using QObject::QObject;

@@ -32,6 +32,7 @@ public:
     LMPermission checkPermission() override;
     QList<LMCapability> capabilities() const override;
     QString windowManagerName() const override;
+    bool hasSystemTray() override { return false; }
 
     // --- for tests ----------------------------------------------------------------------------
     /// Everything there is; change it freely.

@@ -16,6 +16,7 @@ constexpr auto atomNames = std::to_array<std::pair<Member, std::string_view>>({
     {&LMX11Atoms::compoundText, "COMPOUND_TEXT"},
     {&LMX11Atoms::edid, "EDID"},
     {&LMX11Atoms::timestamp, "_ROOK_TIMESTAMP"},
+    {&LMX11Atoms::manager, "MANAGER"},
     {&LMX11Atoms::wmState, "WM_STATE"},
     {&LMX11Atoms::wmChangeState, "WM_CHANGE_STATE"},
     {&LMX11Atoms::wmProtocols, "WM_PROTOCOLS"},

@@ -11,7 +11,8 @@ struct LMX11Atoms {
     xcb_atom_t edid = XCB_ATOM_NONE;         ///< "EDID", a RandR output property
     xcb_atom_t timestamp = XCB_ATOM_NONE;    ///< "_ROOK_TIMESTAMP", see LMX11Connection::serverTime
 
-    // ICCCM 4.1
+    // ICCCM 2.8 and 4.1
+    xcb_atom_t manager = XCB_ATOM_NONE;        ///< "MANAGER"
     xcb_atom_t wmState = XCB_ATOM_NONE;        ///< "WM_STATE"
     xcb_atom_t wmChangeState = XCB_ATOM_NONE;  ///< "WM_CHANGE_STATE"
     xcb_atom_t wmProtocols = XCB_ATOM_NONE;    ///< "WM_PROTOCOLS"

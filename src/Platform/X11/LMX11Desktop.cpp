@@ -8,6 +8,7 @@
 #include "Platform/X11/LMX11Connection.h"
 #include "Platform/X11/LMX11HotKeys.h"
 #include "Platform/X11/LMX11Screens.h"
+#include "Platform/X11/LMX11SystemTray.h"
 #include "Platform/X11/LMX11WindowManager.h"
 #include "Platform/X11/LMX11WindowServer.h"
 
@@ -17,7 +18,8 @@ struct LMX11Desktop::Parts {
         : connection(std::move(opened)), desktopEntries(), windowManager(*connection),
           index(*connection, desktopEntries), accessibility(*connection, index, windowManager),
           windowServer(*connection, index), screens(*connection),
-          applications(*connection, index, desktopEntries, windowManager), hotKeys(*connection) {}
+          applications(*connection, index, desktopEntries, windowManager), hotKeys(*connection),
+          systemTray(*connection) {}
 
     std::unique_ptr<LMX11Connection> connection;
     LMDesktopEntries desktopEntries;
@@ -28,6 +30,7 @@ struct LMX11Desktop::Parts {
     LMX11Screens screens;
     LMX11Applications applications;
     LMX11HotKeys hotKeys;
+    LMX11SystemTray systemTray;
 };
 
 std::unique_ptr<LMX11Desktop> LMX11Desktop::open(const LMLogger& logger, QString* reason) {
@@ -41,6 +44,7 @@ std::unique_ptr<LMX11Desktop> LMX11Desktop::open(const LMLogger& logger, QString
 LMX11Desktop::LMX11Desktop(std::unique_ptr<Parts> parts) : d(std::move(parts)) {
     connect(d->connection.get(), &LMX11Connection::connectionLost, this,
             &LMDesktop::connectionLost);
+    connect(&d->systemTray, &LMX11SystemTray::appeared, this, &LMDesktop::systemTrayAppeared);
 }
 
 LMX11Desktop::~LMX11Desktop() = default;
@@ -78,6 +82,10 @@ QList<LMCapability> LMX11Desktop::capabilities() const {
             {QStringLiteral("hotKeys"), d->hotKeys.isAvailable()}};
 }
 
+bool LMX11Desktop::hasSystemTray() {
+    return d->systemTray.isAvailable();
+}
+
 QString LMX11Desktop::windowManagerName() const {
     return d->windowManager.name();
 }
@@ -98,7 +106,12 @@ bool isX11Session(const QProcessEnvironment& environment, QString* reason) {
         *reason = QStringLiteral("There is no X server to connect to: DISPLAY is not set.");
         return false;
     }
-    return true;
+    xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
+    const bool answers = xcb_connection_has_error(connection) == 0;
+    xcb_disconnect(connection);
+    if (!answers)
+        *reason = QStringLiteral("The X server does not answer.");
+    return answers;
 }
 
 } // namespace

@@ -29,6 +29,7 @@ public:
     LMPermission checkPermission() override;
     QList<LMCapability> capabilities() const override;
     QString windowManagerName() const override;
+    bool hasSystemTray() override;
 
 private:
     struct Parts;
@@ -38,5 +39,5 @@ private:
 };
 
 /// Serves X11 sessions. Declines Wayland sessions, in which only a part of the windows could be
-/// reached, and sessions without a display.
+/// reached, and sessions without a display that answers.
 LMBackend LMX11Backend();
