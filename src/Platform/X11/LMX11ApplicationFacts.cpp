@@ -4,6 +4,8 @@
 #include "Platform/X11/LMX11Connection.h"
 #include "Platform/X11/LMX11WindowProperties.h"
 
+#include <QGuiApplication>
+
 #include <algorithm>
 #include <array>
 #include <xcb/xcb_icccm.h>
@@ -66,6 +68,10 @@ LMX11ApplicationFactsRequest::receive(LMX11Connection& connection,
     facts.leader = leader.value_or(group != XCB_WINDOW_NONE ? group : m_window);
     facts.serverProcess =
         processes.value(LMX11ClientProcessesRequest::clientOf(connection, m_window));
+    // What this program is called it knows best, installed or not.
+    if (facts.serverProcess == QCoreApplication::applicationPid() &&
+        facts.identity.kdeDesktopFile.isEmpty())
+        facts.identity.kdeDesktopFile = QGuiApplication::desktopFileName();
     return facts;
 }
 
