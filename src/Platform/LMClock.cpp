@@ -3,11 +3,17 @@
 
 #include <thread>
 
+using namespace std::chrono_literals;
+
 QDateTime LMSystemClock::now() const {
     return QDateTime::currentDateTime();
 }
 
 void LMSystemClock::sleep(std::chrono::microseconds duration) {
-    if (duration.count() > 0)
-        std::this_thread::sleep_for(duration);
+    const auto end = std::chrono::steady_clock::now() + duration;
+    while (m_sleepObserver && end - std::chrono::steady_clock::now() > 40ms) {
+        std::this_thread::sleep_for(40ms);
+        m_sleepObserver();
+    }
+    std::this_thread::sleep_until(end);
 }

@@ -4,6 +4,7 @@
 #include <QDateTime>
 
 #include <chrono>
+#include <functional>
 
 /// Time as the program sees it; tests bring their own.
 class LMClock {
@@ -22,4 +23,11 @@ class LMSystemClock final : public LMClock {
 public:
     QDateTime now() const override;
     void sleep(std::chrono::microseconds duration) override;
+
+    /// Called about 25 times a second while the program sleeps, so that what moves on the screen
+    /// goes on moving. It must not start anything: the program is in the middle of its work.
+    void setSleepObserver(std::function<void()> observer) { m_sleepObserver = std::move(observer); }
+
+private:
+    std::function<void()> m_sleepObserver;
 };
