@@ -27,10 +27,13 @@ LMUnixSignals::LMUnixSignals(QObject* parent) : QObject(parent) {
     const sigset_t signals = terminationSignals();
     pthread_sigmask(SIG_BLOCK, &signals, nullptr);
     m_descriptor = signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK);
-    if (m_descriptor < 0) {
+    if (m_descriptor < 0)
         pthread_sigmask(SIG_UNBLOCK, &signals, nullptr);
+}
+
+void LMUnixSignals::listen() {
+    if (m_descriptor < 0)
         return;
-    }
     m_notifier = std::make_unique<QSocketNotifier>(m_descriptor, QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, [this] {
         signalfd_siginfo information{};
