@@ -4,7 +4,8 @@
 #include "CommandLine/LMInvocation.h"
 #include "Controller/LMApplicationDelegate.h"
 #include "Controller/LMUnixSignals.h"
-#include "Controller/LMWindowlessUserInterface.h"
+#include "LMExitGuard.h"
+#include "LMFrontEnd.h"
 #include "Model/LMStoredWindowsStore.h"
 #include "Platform/LMClock.h"
 #include "Platform/LMDesktopFactory.h"
@@ -18,11 +19,11 @@
 #include "Utilities/LMPropertyList.h"
 #include "Utilities/LMUserDefaults.h"
 
-#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
@@ -72,7 +73,7 @@ QString storeFailureText(const LMStoreError& error) {
 }
 
 /// Everything the resident process consists of besides the desktop, in the order it is built.
-int serve(LMDesktop& desktop, LMLogger& logger, LMUnixSignals& signals,
+int serve(LMFrontEnd& frontEnd, LMDesktop& desktop, LMLogger& logger, LMUnixSignals& signals,
           const QDBusConnection& bus) {
     LMUserDefaults userDefaults(LMUserDefaults::defaultFilePath(), logger);
     registerDefaults(userDefaults, logger);
@@ -90,8 +91,8 @@ int serve(LMDesktop& desktop, LMLogger& logger, LMUnixSignals& signals,
         return complain(LMStoredWindowsStore::versionMismatchMessageText() + QLatin1Char('\n') +
                         LMStoredWindowsStore::versionMismatchInformativeText());
 
-    LMWindowlessUserInterface userInterface(logger);
-    LMApplicationDelegate delegate(environment, store, userInterface);
+    const auto userInterface = frontEnd.makeUserInterface(desktop, clock, logger);
+    LMApplicationDelegate delegate(environment, store, *userInterface);
     QObject::connect(&signals, &LMUnixSignals::terminationRequested, qApp,
                      [] { QCoreApplication::quit(); });
     int exitCode = LMExitCode::Done;
@@ -103,6 +104,12 @@ int serve(LMDesktop& desktop, LMLogger& logger, LMUnixSignals& signals,
                      });
     delegate.dbusService().registerOn(bus);
     delegate.applicationDidFinishLaunching();
+    frontEnd.setCommitDataHandler([&store] { store.saveWindows(); });
+    // The toolkit leaves by exit() when the X server dies and it notices first.
+    const LMExitGuard exitGuard([&store] {
+        store.cleanWindows();
+        store.saveWindows();
+    });
     QCoreApplication::exec();
     delegate.applicationWillTerminate();
     if (!store.saveFailure().isEmpty())
@@ -111,8 +118,24 @@ int serve(LMDesktop& desktop, LMLogger& logger, LMUnixSignals& signals,
     return exitCode;
 }
 
-int runResident(const LMInvocation& invocation) {
-    LMUnixSignals signals; // Before any thread is made, so that all of them inherit the mask.
+std::vector<LMBackend> backends() {
+    return {LMX11Backend()};
+}
+
+/// Whether there is a desktop that windows can be shown on. The toolkit aborts where there is none.
+bool canShowWindows(const LMInvocation& invocation) {
+    if (invocation.kind != LMInvocation::Kind::Resident || invocation.isHeadless)
+        return false;
+    const auto all = backends();
+    const auto environment = QProcessEnvironment::systemEnvironment();
+    QString reason;
+    return std::any_of(all.begin(), all.end(), [&](const LMBackend& backend) {
+        return backend.isAvailable(environment, &reason);
+    });
+}
+
+int runResident(LMFrontEnd& frontEnd, LMUnixSignals& signals, const LMInvocation& invocation) {
+    signals.listen();
     LMLogger logger;
     if (invocation.isVerbose)
         logger.setLevel(LMLogLevel::Debug);
@@ -124,11 +147,11 @@ int runResident(const LMInvocation& invocation) {
         return handOver(bus);
 
     QString reason;
-    const auto desktop = LMCreateDesktop({LMX11Backend()}, QProcessEnvironment::systemEnvironment(),
-                                         logger, &reason);
+    const auto desktop =
+        LMCreateDesktop(backends(), QProcessEnvironment::systemEnvironment(), logger, &reason);
     if (!desktop)
         return complain(reason);
-    return serve(*desktop, logger, signals, bus);
+    return serve(frontEnd, *desktop, logger, signals, bus);
 }
 
 } // namespace
@@ -141,8 +164,11 @@ int main(int argc, char* argv[]) {
     if (invocation.kind == LMInvocation::Kind::Exit)
         return invocation.exitCode;
 
+    if (invocation.kind == LMInvocation::Kind::Resident) {
+        LMUnixSignals signals; // Before any thread is made, so that all of them inherit the mask.
+        LMFrontEnd frontEnd(argc, argv, canShowWindows(invocation));
+        return runResident(frontEnd, signals, invocation);
+    }
     const QCoreApplication application(argc, argv);
-    if (invocation.kind == LMInvocation::Kind::Resident)
-        return runResident(invocation);
     return LMClient(QDBusConnection::sessionBus(), stdout, stderr).run(invocation);
 }

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+#include "LMFrontEnd.h"
+
+#include "Controller/LMWindowlessUserInterface.h"
+
+LMFrontEnd::LMFrontEnd(int argc, char** argv, bool)
+    : m_argumentCount(argc), m_arguments(argv, argv + argc + 1),
+      m_application(std::make_unique<QCoreApplication>(m_argumentCount, m_arguments.data())) {}
+
+LMFrontEnd::~LMFrontEnd() = default;
+
+std::unique_ptr<LMUserInterface> LMFrontEnd::makeUserInterface(LMDesktop&, LMSystemClock&,
+                                                               const LMLogger& logger) {
+    return std::make_unique<LMWindowlessUserInterface>(logger);
+}
+
+void LMFrontEnd::setCommitDataHandler(std::function<void()>) {}

@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "UserInterface/LMWidgetUserInterface.h"
+
+#include "Platform/LMDesktop.h"
+#include "UserInterface/LMAlertWindow.h"
+#include "UserInterface/LMStatusItem.h"
+#include "UserInterface/LMWindowPlacement.h"
+
+#include <QApplication>
+#include <QWindow>
+
+LMWidgetUserInterface::LMWidgetUserInterface(LMDesktop& desktop, LMBundleInformation bundle)
+    : m_desktop(desktop), m_aboutWindowController(std::move(bundle)) {}
+
+LMWidgetUserInterface::~LMWidgetUserInterface() = default;
+
+LMAlertAnswer LMWidgetUserInterface::runModal(const LMAlert& alert) {
+    LMAlertWindow window(alert);
+    window.adjustSize();
+    LMCentreWindow(window);
+    LMBringToFront(window, m_desktop);
+    window.exec();
+    return window.answer();
+}
+
+bool LMWidgetUserInterface::isModalWindowOpen() const {
+    return QApplication::activeModalWidget() != nullptr;
+}
+
+void LMWidgetUserInterface::activateIgnoringOtherApplications() {
+    // Without a window there is nothing to bring to the front, and nothing is lost by trying.
+    m_desktop.applications().activate(QCoreApplication::applicationPid());
+}
+
+LMStatusMenuView& LMWidgetUserInterface::popUpMenu(LMStatusMenu& menu) {
+    if (!m_popUpMenu)
+        m_popUpMenu = std::make_unique<LMStatusMenuView>(menu, LMStatusMenuView::Drawn::ByUs);
+    return *m_popUpMenu;
+}
+
+void LMWidgetUserInterface::showStatusItem(LMStatusMenu& menu) {
+    m_statusItem = std::make_unique<LMStatusItem>(m_desktop, menu, popUpMenu(menu));
+}
+
+void LMWidgetUserInterface::removeStatusItem() {
+    m_statusItem.reset();
+}
+
+void LMWidgetUserInterface::displayMenuAtCursor(LMStatusMenu& menu) {
+    popUpMenu(menu).popUpAtCursor();
+}
+
+void LMWidgetUserInterface::showAboutPanel() {
+    m_aboutWindowController.showWindow();
+    LMBringToFront(*m_aboutWindowController.window(), m_desktop);
+}
+
+// What later windows provide stands under its name already and does nothing yet.
+void LMWidgetUserInterface::showStoredWindowPicker(LMWorkspace&, LMWindow&) {}
+void LMWidgetUserInterface::closeStoredWindowPicker() {}
+void LMWidgetUserInterface::showStoredWindowsList() {}
+void LMWidgetUserInterface::showPreferencesWindow() {}
+void LMWidgetUserInterface::reloadTableViews() {}

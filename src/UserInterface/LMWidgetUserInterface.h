@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Controller/LMUserInterface.h"
+#include "UserInterface/LMAboutWindowController.h"
+#include "UserInterface/LMProgressWindowController.h"
+
+#include <memory>
+
+class LMDesktop;
+class LMStatusItem;
+class LMStatusMenuView;
+
+/// The user interface made of widgets. Each part is made when it is first needed.
+class LMWidgetUserInterface final : public LMUserInterface {
+public:
+    /// The desktop outlives the user interface.
+    LMWidgetUserInterface(LMDesktop& desktop, LMBundleInformation bundle);
+    ~LMWidgetUserInterface() override;
+
+    bool canShowWindows() const override { return true; }
+
+    LMProgressWindow& progressWindow() override { return m_progressWindowController; }
+    LMAlertAnswer runModal(const LMAlert& alert) override;
+    bool isModalWindowOpen() const override;
+    void activateIgnoringOtherApplications() override;
+
+    void showStatusItem(LMStatusMenu& menu) override;
+    void removeStatusItem() override;
+    void displayMenuAtCursor(LMStatusMenu& menu) override;
+
+    void showStoredWindowPicker(LMWorkspace& workspace, LMWindow& focusedWindow) override;
+    void closeStoredWindowPicker() override;
+    void showStoredWindowsList() override;
+    void showPreferencesWindow() override;
+    void showAboutPanel() override;
+    void reloadTableViews() override;
+
+    /// Called now and then while the program waits for something in the middle of its work.
+    void animateProgress() { m_progressWindowController.animate(); }
+
+private:
+    LMStatusMenuView& popUpMenu(LMStatusMenu& menu);
+
+    LMDesktop& m_desktop;
+    LMProgressWindowController m_progressWindowController;
+    LMAboutWindowController m_aboutWindowController;
+    std::unique_ptr<LMStatusMenuView> m_popUpMenu;
+    std::unique_ptr<LMStatusItem> m_statusItem; ///< Uses the menu above.
+};
