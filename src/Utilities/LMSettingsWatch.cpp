@@ -9,7 +9,7 @@
 
 using namespace std::chrono_literals;
 
-LMSettingsWatch::LMSettingsWatch(QString path, std::function<void()> handler)
+LMSettingsWatch::LMSettingsWatch(QString path, const std::function<void()>& handler)
     : m_path(std::move(path)) {
     // Editors empty a file before they write it, or write it in pieces.
     m_settling.setSingleShot(true);

@@ -12,7 +12,7 @@
 class LMSettingsWatch {
 public:
     /// The handler is called from the event loop, once for changes that follow each other closely.
-    LMSettingsWatch(QString path, std::function<void()> handler);
+    LMSettingsWatch(QString path, const std::function<void()>& handler);
 
     /// The file or its directory may have been made meanwhile.
     void renew();

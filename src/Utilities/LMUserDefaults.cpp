@@ -6,6 +6,8 @@
 #include "Utilities/LMLogger.h"
 #include "Utilities/LMSettingsWatch.h"
 
+#include <QAbstractEventDispatcher>
+
 #include <utility>
 
 LMUserDefaults::LMUserDefaults(QString filePath, const LMLogger& logger)
@@ -91,7 +93,7 @@ void LMUserDefaults::reload() {
 }
 
 void LMUserDefaults::followFile() {
-    if (!m_watch)
+    if (!m_watch && QAbstractEventDispatcher::instance() != nullptr)
         m_watch = std::make_unique<LMSettingsWatch>(m_file.path(), [this] { reload(); });
 }
 
