@@ -6,201 +6,59 @@
 #include <QChar>
 
 #include <algorithm>
+#include <array>
 #include <unicode/unistr.h>
 
 namespace {
 
-struct VirtualKey {
-    int code;
-    quint32 keysym;
-};
-
-constexpr VirtualKey virtualKeys[] = {
-    // Letters, digits and punctuation.
-    {0, 'a'},
-    {1, 's'},
-    {2, 'd'},
-    {3, 'f'},
-    {4, 'h'},
-    {5, 'g'},
-    {6, 'z'},
-    {7, 'x'},
-    {8, 'c'},
-    {9, 'v'},
-    {10, 0xa7},
-    {11, 'b'},
-    {12, 'q'},
-    {13, 'w'},
-    {14, 'e'},
-    {15, 'r'},
-    {16, 'y'},
-    {17, 't'},
-    {18, '1'},
-    {19, '2'},
-    {20, '3'},
-    {21, '4'},
-    {22, '6'},
-    {23, '5'},
-    {24, '='},
-    {25, '9'},
-    {26, '7'},
-    {27, '-'},
-    {28, '8'},
-    {29, '0'},
-    {30, ']'},
-    {31, 'o'},
-    {32, 'u'},
-    {33, '['},
-    {34, 'i'},
-    {35, 'p'},
-    {37, 'l'},
-    {38, 'j'},
-    {39, '\''},
-    {40, 'k'},
-    {41, ';'},
-    {42, '\\'},
-    {43, ','},
-    {44, '/'},
-    {45, 'n'},
-    {46, 'm'},
-    {47, '.'},
-    {49, ' '},
-    {50, '`'},
-    {93, 0xa5},
-    {94, '_'},
-    // Editing and movement.
-    {36, 0xff0d},
-    {48, 0xff09},
-    {51, 0xff08},
-    {53, 0xff1b},
-    {71, 0xff0b},
-    {102, 0xff30},
-    {104, 0xff27},
-    {110, 0xff67},
-    {114, 0xff63},
-    {115, 0xff50},
-    {116, 0xff55},
-    {117, 0xffff},
-    {119, 0xff57},
-    {121, 0xff56},
-    {123, 0xff51},
-    {124, 0xff53},
-    {125, 0xff54},
-    {126, 0xff52},
-    // Keypad.
-    {65, 0xffae},
-    {67, 0xffaa},
-    {69, 0xffab},
-    {75, 0xffaf},
-    {76, 0xff8d},
-    {78, 0xffad},
-    {81, 0xffbd},
-    {82, 0xffb0},
-    {83, 0xffb1},
-    {84, 0xffb2},
-    {85, 0xffb3},
-    {86, 0xffb4},
-    {87, 0xffb5},
-    {88, 0xffb6},
-    {89, 0xffb7},
-    {91, 0xffb8},
-    {92, 0xffb9},
-    {95, 0xffac},
-    // F1 to F20.
-    {122, 0xffbe},
-    {120, 0xffbf},
-    {99, 0xffc0},
-    {118, 0xffc1},
-    {96, 0xffc2},
-    {97, 0xffc3},
-    {98, 0xffc4},
-    {100, 0xffc5},
-    {101, 0xffc6},
-    {109, 0xffc7},
-    {103, 0xffc8},
-    {111, 0xffc9},
-    {105, 0xffca},
-    {107, 0xffcb},
-    {113, 0xffcc},
-    {106, 0xffcd},
-    {64, 0xffce},
-    {79, 0xffcf},
-    {80, 0xffd0},
-    {90, 0xffd1},
-    // Sound.
-    {72, 0x1008ff13},
-    {73, 0x1008ff11},
-    {74, 0x1008ff12},
-};
+// clang-format off
+/// By virtual key code; 0 where there is no key, or a modifier.
+constexpr std::array<quint32, 128> keysymsByCode = {
+    /*   0 */ 'a', 's', 'd', 'f', 'h', 'g', 'z', 'x',
+    /*   8 */ 'c', 'v', 0xa7, 'b', 'q', 'w', 'e', 'r',
+    /*  16 */ 'y', 't', '1', '2', '3', '4', '6', '5',
+    /*  24 */ '=', '9', '7', '-', '8', '0', ']', 'o',
+    /*  32 */ 'u', '[', 'i', 'p', 0xff0d, 'l', 'j', '\'',
+    /*  40 */ 'k', ';', '\\', ',', '/', 'n', 'm', '.',
+    /*  48 */ 0xff09, ' ', '`', 0xff08, 0, 0xff1b, 0, 0,
+    /*  56 */ 0, 0, 0, 0, 0, 0, 0, 0,
+    /*  64 */ 0xffce, 0xffae, 0, 0xffaa, 0, 0xffab, 0, 0xff0b,
+    /*  72 */ 0x1008ff13, 0x1008ff11, 0x1008ff12, 0xffaf, 0xff8d, 0, 0xffad, 0xffcf,
+    /*  80 */ 0xffd0, 0xffbd, 0xffb0, 0xffb1, 0xffb2, 0xffb3, 0xffb4, 0xffb5,
+    /*  88 */ 0xffb6, 0xffb7, 0xffd1, 0xffb8, 0xffb9, 0xa5, '_', 0xffac,
+    /*  96 */ 0xffc2, 0xffc3, 0xffc4, 0xffc0, 0xffc5, 0xffc6, 0xff30, 0xffc8,
+    /* 104 */ 0xff27, 0xffca, 0xffcd, 0xffcb, 0, 0xffc7, 0xff67, 0xffc9,
+    /* 112 */ 0, 0xffcc, 0xff63, 0xff50, 0xff55, 0xffff, 0xffc1, 0xff57,
+    /* 120 */ 0xffbf, 0xff56, 0xffbe, 0xff51, 0xff53, 0xff54, 0xff52, 0};
+// clang-format on
 
 struct KeyName {
     quint32 keysym;
     const char* name;
 };
 
+// clang-format off
 constexpr KeyName names[] = {
-    {' ', "Space"},
-    {0xa0, "No-Break Space"},
-    {0xff08, "Backspace"},
-    {0xff09, "Tab"},
-    {0xff0b, "Clear"},
-    {0xff0d, "Return"},
-    {0xff13, "Pause"},
-    {0xff15, "System Request"},
-    {0xff1b, "Escape"},
-    {0xff27, "Kana"},
-    {0xff30, "Eisu"},
-    {0xff50, "Home"},
-    {0xff51, "Left"},
-    {0xff52, "Up"},
-    {0xff53, "Right"},
-    {0xff54, "Down"},
-    {0xff55, "Page Up"},
-    {0xff56, "Page Down"},
-    {0xff57, "End"},
-    {0xff61, "Print"},
-    {0xff63, "Insert"},
-    {0xff67, "Menu"},
-    {0xff6a, "Help"},
-    {0xffff, "Delete"},
-    {0xff8d, "Keypad Enter"},
-    {0xff95, "Keypad Home"},
-    {0xff96, "Keypad Left"},
-    {0xff97, "Keypad Up"},
-    {0xff98, "Keypad Right"},
-    {0xff99, "Keypad Down"},
-    {0xff9a, "Keypad Page Up"},
-    {0xff9b, "Keypad Page Down"},
-    {0xff9c, "Keypad End"},
-    {0xff9d, "Keypad Begin"},
-    {0xff9e, "Keypad Insert"},
-    {0xff9f, "Keypad Delete"},
-    {0x1008ff02, "Brightness Up"},
-    {0x1008ff03, "Brightness Down"},
-    {0x1008ff11, "Volume Down"},
-    {0x1008ff12, "Mute"},
-    {0x1008ff13, "Volume Up"},
-    {0x1008ff14, "Play"},
-    {0x1008ff15, "Stop"},
-    {0x1008ff16, "Previous Track"},
-    {0x1008ff17, "Next Track"},
-    {0x1008ff18, "Home Page"},
-    {0x1008ff19, "Mail"},
-    {0x1008ff1b, "Search"},
-    {0x1008ff1d, "Calculator"},
-    {0x1008ff26, "Back"},
-    {0x1008ff27, "Forward"},
-    {0x1008ff2a, "Power Off"},
-    {0x1008ff2f, "Sleep"},
-    {0x1008ff31, "Pause Playing"},
-    {0x1008ff32, "Media"},
-    {0x1008ff41, "Launch 1"},
-    {0x1008ff42, "Launch 2"},
-    {0x1008ff43, "Launch 3"},
-    {0x1008ff44, "Launch 4"},
-    {0x1008ff59, "Display"},
-    {0x1008ffb2, "Microphone Mute"},
+    {' ', "Space"}, {0xa0, "No-Break Space"}, {0xff08, "Backspace"}, {0xff09, "Tab"},
+    {0xff0b, "Clear"}, {0xff0d, "Return"}, {0xff13, "Pause"}, {0xff15, "System Request"},
+    {0xff1b, "Escape"}, {0xff27, "Kana"}, {0xff30, "Eisu"}, {0xff50, "Home"}, {0xff51, "Left"},
+    {0xff52, "Up"}, {0xff53, "Right"}, {0xff54, "Down"}, {0xff55, "Page Up"},
+    {0xff56, "Page Down"}, {0xff57, "End"}, {0xff61, "Print"}, {0xff63, "Insert"},
+    {0xff67, "Menu"}, {0xff6a, "Help"}, {0xffff, "Delete"}, {0xff8d, "Keypad Enter"},
+    {0xff95, "Keypad Home"}, {0xff96, "Keypad Left"}, {0xff97, "Keypad Up"},
+    {0xff98, "Keypad Right"}, {0xff99, "Keypad Down"}, {0xff9a, "Keypad Page Up"},
+    {0xff9b, "Keypad Page Down"}, {0xff9c, "Keypad End"}, {0xff9d, "Keypad Begin"},
+    {0xff9e, "Keypad Insert"}, {0xff9f, "Keypad Delete"}, {0x1008ff02, "Brightness Up"},
+    {0x1008ff03, "Brightness Down"}, {0x1008ff11, "Volume Down"}, {0x1008ff12, "Mute"},
+    {0x1008ff13, "Volume Up"}, {0x1008ff14, "Play"}, {0x1008ff15, "Stop"},
+    {0x1008ff16, "Previous Track"}, {0x1008ff17, "Next Track"}, {0x1008ff18, "Home Page"},
+    {0x1008ff19, "Mail"}, {0x1008ff1b, "Search"}, {0x1008ff1d, "Calculator"},
+    {0x1008ff26, "Back"}, {0x1008ff27, "Forward"}, {0x1008ff2a, "Power Off"},
+    {0x1008ff2f, "Sleep"}, {0x1008ff31, "Pause Playing"}, {0x1008ff32, "Media"},
+    {0x1008ff41, "Launch 1"}, {0x1008ff42, "Launch 2"}, {0x1008ff43, "Launch 3"},
+    {0x1008ff44, "Launch 4"}, {0x1008ff59, "Display"}, {0x1008ffb2, "Microphone Mute"},
 };
+// clang-format on
 
 /// The keysyms from before Unicode: bits 8 to 12 select a character set, the low byte is the
 /// character's place in it.
@@ -249,13 +107,17 @@ bool isVisible(const QString& text) {
 } // namespace
 
 std::optional<quint32> LMKeyTable::keysymForVirtualKeyCode(int code) {
-    const auto* key = std::ranges::find(virtualKeys, code, &VirtualKey::code);
-    return key == std::end(virtualKeys) ? std::nullopt : std::optional(key->keysym);
+    if (code < 0 || code >= static_cast<int>(keysymsByCode.size()))
+        return std::nullopt;
+    const quint32 keysym = keysymsByCode[static_cast<std::size_t>(code)];
+    return keysym != 0 ? std::optional(keysym) : std::nullopt;
 }
 
 std::optional<int> LMKeyTable::virtualKeyCodeForKeysym(quint32 keysym) {
-    const auto* key = std::ranges::find(virtualKeys, keysym, &VirtualKey::keysym);
-    return key == std::end(virtualKeys) ? std::nullopt : std::optional(key->code);
+    const auto* found = std::ranges::find(keysymsByCode, keysym);
+    if (keysym == 0 || found == keysymsByCode.end())
+        return std::nullopt;
+    return static_cast<int>(found - keysymsByCode.begin());
 }
 
 quint32 LMKeyTable::canonicalKeysym(quint32 keysym) {

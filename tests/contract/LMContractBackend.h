@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "contract/LMContractKeyboard.h"
 #include "Platform/LMDesktop.h"
 #include "support/LMDesktopTools.h"
 
@@ -49,6 +50,7 @@ public:
     /// The application stops answering until the end of the test.
     virtual void freeze(const QString& application) = 0;
     virtual void breakConnection() = 0;
+    virtual LMContractKeyboard& keyboard() = 0;
 
     /// The frame that the user sees, global pixels.
     virtual QRectF visibleFrame(const LMElement& window) = 0;

@@ -94,6 +94,7 @@ public:
     void raise(const LMElement& window) override;
     void freeze(const QString& application) override;
     void breakConnection() override;
+    LMContractKeyboard& keyboard() override { return *m_keyboard; }
     QRectF visibleFrame(const LMElement& window) override;
     bool isMinimized(const LMElement& window) override {
         return property(window, "WM_STATE").contains(u"state: Iconic"_qs);
@@ -111,6 +112,7 @@ private:
 
     LMLogger m_logger;
     std::unique_ptr<LMX11Connection> m_connection; ///< Not the desktop's.
+    std::unique_ptr<LMContractKeyboard> m_keyboard;
     std::unique_ptr<LMDesktop> m_desktop;
     std::map<ProcessKey, std::unique_ptr<LMWindowClient>> m_clients;
     std::map<qint64, ProcessKey> m_owners; ///< By window.
@@ -126,6 +128,7 @@ LMX11ContractBackend::LMX11ContractBackend() {
     m_desktop = LMX11Backend().create(m_logger, &reason);
     if (!m_connection || !m_desktop)
         throw std::runtime_error(reason.toStdString());
+    m_keyboard = LMMakeX11ContractKeyboard(*m_connection);
 }
 
 LMX11ContractBackend::~LMX11ContractBackend() {

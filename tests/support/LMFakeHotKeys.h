@@ -18,6 +18,8 @@ public:
     /// Presses and releases; nothing happens when no hot key has the shortcut.
     void press(const LMShortcut& shortcut);
     void release(const LMShortcut& shortcut);
+    /// The identifier of the hot key that works with it; null when none does.
+    QString holder(const LMShortcut& shortcut) const;
     /// Another program takes shortcuts, all it takes at a time.
     void setHeldByAnotherProgram(const QList<LMShortcut>& shortcuts) { m_foreign = shortcuts; }
     /// The keyboard has changed: all that are refused are tried again.
@@ -32,7 +34,6 @@ private:
 
     void update(const QString& caller);
     std::optional<LMHotKeyRefusal> refusal(const HotKey& hotKey) const;
-    QString holder(const LMShortcut& shortcut) const;
 
     LMFakeWorld& m_world;
     QList<HotKey> m_hotKeys;

@@ -2,24 +2,18 @@
 #include "Platform/X11/LMX11HotKeys.h"
 
 #include <algorithm>
-#include <ranges>
-#include <set>
 #include <utility>
 
 namespace {
 
 constexpr uint16_t allModifiers = 0xff; // Shift to Mod5; the bits above are pointer buttons.
 
+template <class T>
+bool contains(const std::vector<T>& values, const T& value) {
+    return std::ranges::find(values, value) != values.end();
+}
+
 } // namespace
-
-bool LMX11HotKeys::HotKey::isWanted(const Grab& grab) const {
-    return std::ranges::find(required, grab) != required.end() ||
-           std::ranges::find(welcome, grab) != welcome.end();
-}
-
-bool LMX11HotKeys::HotKey::isInForce(const Grab& grab) const {
-    return std::ranges::find(inForce, grab) != inForce.end();
-}
 
 LMX11HotKeys::LMX11HotKeys(LMX11Connection& connection) : m_connection(connection) {
     m_subscription = connection.addEventFilter([this](const auto& event) { handle(event); });
@@ -71,7 +65,7 @@ void LMX11HotKeys::update(const QString& caller) {
     for (const HotKey& hotKey : m_hotKeys)
         before.append({hotKey.identifier, hotKey.refusal});
 
-    if (!m_keyMap)
+    if (!m_keyMap || !m_connection.isConnected())
         m_keyMap = LMX11KeyMap::read(m_connection);
     plan();
     releaseUnwanted();
@@ -92,50 +86,46 @@ void LMX11HotKeys::update(const QString& caller) {
 /// to whom it is left for.
 void LMX11HotKeys::plan() {
     std::vector<HotKey*> order;
-    for (HotKey& hotKey : m_hotKeys) {
-        hotKey.required.clear();
-        hotKey.welcome.clear();
+    for (HotKey& hotKey : m_hotKeys)
         order.push_back(&hotKey);
-    }
-    std::ranges::stable_partition(order, [](const HotKey* hotKey) { return !hotKey->refusal; });
-
-    std::set<Grab> taken;
-    std::vector<std::pair<HotKey*, Grabs>> welcome;
+    std::stable_partition(order.begin(), order.end(),
+                          [](const HotKey* hotKey) { return !hotKey->refusal; });
+    Grabs taken;
+    for (HotKey* hotKey : order)
+        hotKey->refusal = claim(*hotKey, taken);
     for (HotKey* hotKey : order) {
-        hotKey->refusal = LMHotKeyRefusal::NotAvailable;
-        if (!m_keyMap)
-            continue;
-        const auto modifiers = m_keyMap->modifiers(hotKey->shortcut.modifierFlags());
-        const LMX11KeyMap::Keys keys = m_keyMap->keys(hotKey->shortcut.keysym());
-        hotKey->refusal = LMHotKeyRefusal::NoSuchKey;
-        if (!modifiers || keys.codes.empty())
-            continue;
-        const auto grabs = [&](const std::vector<xcb_keycode_t>& codes) {
-            Grabs result;
-            for (const xcb_keycode_t code : codes)
-                result.push_back({code, *modifiers});
-            return result;
-        };
-        const Grabs required = grabs(keys.codes);
-        hotKey->refusal = LMHotKeyRefusal::AlreadyInUse;
-        if (std::ranges::any_of(required, [&](const Grab& grab) { return taken.contains(grab); }))
-            continue;
-        hotKey->refusal.reset();
-        hotKey->required = required;
-        taken.insert(required.begin(), required.end());
-        welcome.emplace_back(hotKey, grabs(keys.codesOfOtherLayouts));
+        std::erase_if(hotKey->welcome, [&](const Grab& grab) { return contains(taken, grab); });
+        taken.insert(taken.end(), hotKey->welcome.begin(), hotKey->welcome.end());
     }
-    for (const auto& [hotKey, grabs] : welcome) {
-        std::ranges::copy_if(grabs, std::back_inserter(hotKey->welcome),
-                             [&](const Grab& grab) { return taken.insert(grab).second; });
-    }
+}
+
+std::optional<LMHotKeyRefusal> LMX11HotKeys::claim(HotKey& hotKey, Grabs& taken) {
+    hotKey.required.clear();
+    hotKey.welcome.clear();
+    if (!m_keyMap)
+        return LMHotKeyRefusal::NotAvailable;
+    const auto modifiers = m_keyMap->modifiers(hotKey.shortcut.modifierFlags());
+    const LMX11KeyMap::Keys keys = m_keyMap->keys(hotKey.shortcut.keysym());
+    if (!modifiers || keys.codes.empty())
+        return LMHotKeyRefusal::NoSuchKey;
+    Grabs required;
+    for (const xcb_keycode_t code : keys.codes)
+        required.push_back({code, *modifiers});
+    if (std::ranges::any_of(required, [&](const Grab& grab) { return contains(taken, grab); }))
+        return LMHotKeyRefusal::AlreadyInUse;
+    taken.insert(taken.end(), required.begin(), required.end());
+    hotKey.required = required;
+    for (const xcb_keycode_t code : keys.codesOfOtherLayouts)
+        hotKey.welcome.push_back({code, *modifiers});
+    return std::nullopt;
 }
 
 void LMX11HotKeys::releaseUnwanted() {
     const bool haveLocksChanged = m_keyMap && m_keyMap->lockModifiers() != m_lockModifiers;
     for (HotKey& hotKey : m_hotKeys) {
         std::erase_if(hotKey.inForce, [&](const Grab& grab) {
-            if (hotKey.isWanted(grab) && !haveLocksChanged)
+            const bool isWanted = contains(hotKey.required, grab) || contains(hotKey.welcome, grab);
+            if (isWanted && !haveLocksChanged)
                 return false;
             ungrab(grab);
             return true;
@@ -157,7 +147,7 @@ void LMX11HotKeys::takeWanted() {
     for (HotKey& hotKey : m_hotKeys) {
         for (const Grabs* grabs : {&hotKey.required, &hotKey.welcome}) {
             for (const Grab& wanted : *grabs) {
-                if (!hotKey.isInForce(wanted))
+                if (!contains(hotKey.inForce, wanted))
                     attempts.push_back({hotKey, wanted, grabs == &hotKey.required, grab(wanted)});
             }
         }
@@ -253,7 +243,7 @@ void LMX11HotKeys::keyPressed(const xcb_key_press_event_t& event) {
     const Grab pressed{event.detail,
                        static_cast<uint16_t>(event.state & allModifiers & ~m_lockModifiers)};
     const auto hotKey = std::ranges::find_if(
-        m_hotKeys, [&](const HotKey& candidate) { return candidate.isInForce(pressed); });
+        m_hotKeys, [&](const HotKey& candidate) { return contains(candidate.inForce, pressed); });
     if (event.event != m_connection.root() || hotKey == m_hotKeys.end())
         return;
     m_heldKey = {event.detail, hotKey->identifier};

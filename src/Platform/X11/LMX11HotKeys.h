@@ -7,7 +7,6 @@
 
 #include <QTimer>
 
-#include <compare>
 #include <optional>
 #include <vector>
 
@@ -29,7 +28,7 @@ private:
     struct Grab {
         xcb_keycode_t code = 0;
         uint16_t modifiers = 0;
-        auto operator<=>(const Grab&) const = default;
+        bool operator==(const Grab&) const = default;
     };
     using Grabs = std::vector<Grab>;
 
@@ -40,9 +39,6 @@ private:
         Grabs inForce{};
         Grabs required{}; ///< Without all of these it is refused.
         Grabs welcome{};  ///< On keys that are right in another layout of the user's.
-
-        bool isWanted(const Grab& grab) const;
-        bool isInForce(const Grab& grab) const;
     };
 
     /// The key that reported a hot key and has not been let go.
@@ -55,6 +51,7 @@ private:
     /// Brings everything up to date and tells of all changes but the caller's.
     void update(const QString& caller = QString());
     void plan();
+    std::optional<LMHotKeyRefusal> claim(HotKey& hotKey, Grabs& taken);
     void releaseUnwanted();
     void takeWanted();
     std::vector<xcb_void_cookie_t> grab(const Grab& grab);

@@ -6,6 +6,7 @@
 #include "Platform/X11/LMX11Connection.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 namespace {
@@ -20,6 +21,25 @@ constexpr xcb_keysym_t SuperLeft = 0xffeb, SuperRight = 0xffec;
 constexpr int secondLayout = 2;
 constexpr int layoutColumns = 4;
 constexpr int modifierCount = 8;
+
+/// Where the ANSI keyboard has its characters, by the key codes that all Linux drivers use.
+struct KeyRow {
+    xcb_keycode_t firstCode;
+    std::string_view characters;
+};
+constexpr KeyRow ansiRows[] = {
+    {10, "1234567890-="}, {24, "qwertyuiop[]"}, {38, "asdfghjkl;'`"}, {51, "\\zxcvbnm,./"}};
+
+std::vector<xcb_keycode_t> codesOnAnsiKeyboard(quint32 keysym) {
+    if (keysym > 0x7f)
+        return {};
+    for (const KeyRow& row : ansiRows) {
+        const auto place = row.characters.find(static_cast<char>(keysym));
+        if (place != std::string_view::npos)
+            return {static_cast<xcb_keycode_t>(row.firstCode + place)};
+    }
+    return {};
+}
 
 } // namespace
 
@@ -65,6 +85,8 @@ LMX11KeyMap::Keys LMX11KeyMap::keys(quint32 keysym) const {
     }
     for (int column = layoutColumns; column < m_width && keys.codes.empty(); ++column)
         keys.codes = codesInColumn(keysym, column);
+    if (keys.codes.empty())
+        keys.codes = codesOnAnsiKeyboard(keysym);
     return keys;
 }
 

@@ -32,7 +32,8 @@ public:
     static std::optional<LMX11KeyMap> read(LMX11Connection& connection);
 
     /// Keys that produce it without Shift; only when there are none, those that need Shift, and
-    /// then any that need more.
+    /// then any that need more. A Latin character that the user's layouts have nowhere (Cyrillic,
+    /// Greek) is looked for in its place on the ANSI keyboard.
     Keys keys(quint32 keysym) const;
 
     /// The core modifiers for the flags of LMModifier. Nothing when the keyboard lacks one.
