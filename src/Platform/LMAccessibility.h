@@ -48,6 +48,31 @@ public:
     /// LMReadingScope.
     virtual void beginReading(const QList<LMElement>& windows) = 0;
     virtual void endReading() = 0;
+
+    /// Announces the values that one attribute of many windows is about to be set to, so that a
+    /// back end that can may ask for all of them at once and wait for them together. Each window is
+    /// still to be set: that does what is left to do, nothing as a rule, and tells of failures.
+    /// Takes the time that the windows take; a frozen window manager costs the deadline for one.
+    /// Reads until endSetting may be answered from memory, as after beginReading. Prefer
+    /// LMSettingScope.
+    virtual void beginSetting(QLatin1String /*attribute*/,
+                              const QList<LMElementValue>& /*changes*/) {}
+    virtual void endSetting() {}
+};
+
+/// Sets one attribute of a batch of windows at once for as long as it lives.
+class LMSettingScope {
+public:
+    LMSettingScope(LMAccessibility& accessibility, QLatin1String attribute,
+                   const QList<LMElementValue>& changes)
+        : m_accessibility(accessibility) {
+        m_accessibility.beginSetting(attribute, changes);
+    }
+    ~LMSettingScope() { m_accessibility.endSetting(); }
+    Q_DISABLE_COPY_MOVE(LMSettingScope)
+
+private:
+    LMAccessibility& m_accessibility;
 };
 
 /// Reads a batch of windows at once for as long as it lives.

@@ -46,6 +46,12 @@ struct LMElement {
 using LMAttributeValue =
     std::variant<std::monostate, bool, QString, QPointF, QSizeF, LMElement, QList<LMElement>>;
 
+/// A value for an attribute of an element.
+struct LMElementValue {
+    LMElement element;
+    LMAttributeValue value;
+};
+
 /// The attribute names the back ends understand.
 namespace LMAttribute {
 inline constexpr QLatin1String Windows{"AXWindows"}; ///< application: windows, front to back

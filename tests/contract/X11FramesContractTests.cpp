@@ -135,6 +135,48 @@ TEST_P(X11FramesContract, WindowsGetToAndBeyondTheCorner) {
     EXPECT_TRUE(isAt(window, stored));
 }
 
+// The announcement does the work; each window is set after it all the same, and that tells.
+TEST_P(X11FramesContract, ManyWindowsAreSetTogether) {
+    const QList<LMElement> plain{open(), open({.kind = Kind::ClientDecorated}),
+                                 open({.kind = Kind::Dialog}), open({.gravity = 10})};
+    const LMElement large = open(), fixed = open({.isResizable = false}), gone = open();
+    enter(large, State::Maximized);
+    backend->closeWindow(gone);
+    QList<QRectF> wanted;
+    QList<LMElementValue> positions{{plain[0], QPointF(500, 400)}}; // The last word counts.
+    QList<LMElementValue> sizes;
+    for (const LMElement& window : plain + QList{large, fixed, gone}) {
+        const auto step = double(wanted.size());
+        wanted.append({90 + 40 * step, 70 + 30 * step, 440 + 10 * step, 330 + 10 * step});
+        positions.append({window, wanted.last().topLeft()});
+        sizes.append({window, wanted.last().size()});
+    }
+    {
+        const LMSettingScope scope(accessibility(), LMAttribute::Position, positions);
+        for (qsizetype index = 0; index < plain.size(); ++index)
+            EXPECT_EQ(backend->visibleFrame(plain[index]).topLeft(), wanted[index].topLeft());
+        wmctrl(plain[1], "-e 0,600,500,-1,-1");
+        const auto isMoved = [&] {
+            return backend->visibleFrame(plain[1]).topLeft() != wanted[1].topLeft();
+        };
+        ASSERT_TRUE(LMWaitUntil(isMoved));
+        EXPECT_TRUE(set(plain[1], LMAttribute::Position, wanted[1].topLeft()));
+        EXPECT_TRUE(isMoved()) << "it was done already";
+        for (const auto& [window, value] : positions)
+            EXPECT_EQ(set(window, LMAttribute::Position, value), window != gone);
+    }
+    {
+        const LMSettingScope scope(accessibility(), LMAttribute::Size, sizes);
+        for (qsizetype index = 0; index < plain.size(); ++index)
+            EXPECT_TRUE(isAt(plain[index], wanted[index])) << index;
+        for (const auto& [window, value] : sizes)
+            EXPECT_EQ(set(window, LMAttribute::Size, value), window != gone && window != fixed);
+        EXPECT_EQ(setError(gone, LMAttribute::Size, QSizeF()), LMPlatformError::InvalidElement);
+    }
+    EXPECT_TRUE(isAt(large, wanted[4]));
+    EXPECT_EQ(frame(fixed).topLeft(), wanted[5].topLeft());
+}
+
 TEST_P(X11FramesContract, ATerminalComesBackToItsMaximizedFrame) {
     const LMElement window = open({.increment = QSize(7, 13)});
     restore(window, QRectF(40, 40, 500, 400));

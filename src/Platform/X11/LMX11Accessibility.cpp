@@ -25,6 +25,11 @@ bool isSettable(const LMX11Window& window, QLatin1String attribute) {
            (attribute == LMAttribute::Size && window.structure.isResizable);
 }
 
+bool fits(const LMAttributeValue& value, QLatin1String attribute) {
+    return (attribute == LMAttribute::Position && std::holds_alternative<QPointF>(value)) ||
+           (attribute == LMAttribute::Size && std::holds_alternative<QSizeF>(value));
+}
+
 } // namespace
 
 LMX11Accessibility::LMX11Accessibility(LMX11Connection& connection, LMX11ApplicationIndex& index,
@@ -142,6 +147,9 @@ LMPlatformStatus LMX11Accessibility::setAttributeValue(const LMElement& element,
     if (element.kind != LMElement::Kind::Window)
         return LMPlatformStatus::failure(element.isNull() ? LMPlatformError::InvalidElement
                                                           : LMPlatformError::NotSettable);
+    // Once: who sets the same again has a reason to doubt.
+    if (fits(value, attribute) && m_done.take(element.identifier) == value)
+        return LMPlatformStatus::success();
     m_known.remove(element.identifier);
     const QList<xcb_window_t> window{windowOf(element)};
     const LMX11Reading reading =
@@ -150,13 +158,11 @@ LMPlatformStatus LMX11Accessibility::setAttributeValue(const LMElement& element,
         return LMPlatformStatus::failure(absence());
     if (!isSettable(reading.windows.first(), attribute))
         return LMPlatformStatus::failure(LMPlatformError::NotSettable);
-    if (const auto* position = std::get_if<QPointF>(&value);
-        position != nullptr && attribute == LMAttribute::Position)
-        return m_setter.setPosition(reading, *position);
-    if (const auto* size = std::get_if<QSizeF>(&value);
-        size != nullptr && attribute == LMAttribute::Size)
-        return m_setter.setSize(reading, *size);
-    return LMPlatformStatus::failure(LMPlatformError::Failure);
+    if (!fits(value, attribute))
+        return LMPlatformStatus::failure(LMPlatformError::Failure);
+    return attribute == LMAttribute::Position
+               ? m_setter.setPosition(reading, std::get<QPointF>(value))
+               : m_setter.setSize(reading, std::get<QSizeF>(value));
 }
 
 void LMX11Accessibility::beginReading(const QList<LMElement>& windows) {
@@ -174,6 +180,31 @@ void LMX11Accessibility::beginReading(const QList<LMElement>& windows) {
 }
 
 void LMX11Accessibility::endReading() {
-    if (--m_readingDepth == 0)
-        m_known.clear();
+    if (--m_readingDepth > 0)
+        return;
+    m_known.clear();
+    m_done.clear();
+}
+
+void LMX11Accessibility::beginSetting(QLatin1String attribute,
+                                      const QList<LMElementValue>& changes) {
+    ++m_readingDepth;
+    QList<xcb_window_t> windows;
+    QList<LMAttributeValue> values;
+    for (const LMElementValue& change : changes) {
+        if (change.element.kind != LMElement::Kind::Window || !fits(change.value, attribute))
+            continue;
+        windows.append(windowOf(change.element));
+        values.append(change.value);
+    }
+    if (windows.isEmpty())
+        return;
+    LMX11Reading reading = m_reader.read(windows);
+    const QList<bool> done = m_setter.setTogether(reading, values);
+    for (qsizetype index = 0; index < values.size(); ++index) {
+        const LMX11Window& window = reading.windows[index];
+        m_known.insert(window.identifier, {window, reading.globalFrame(window)});
+        if (done[index] && isSettable(window, attribute))
+            m_done.insert(window.identifier, values[index]);
+    }
 }

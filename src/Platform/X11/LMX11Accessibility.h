@@ -42,6 +42,8 @@ public:
                                        const LMAttributeValue& value) override;
     void beginReading(const QList<LMElement>& windows) override;
     void endReading() override;
+    void beginSetting(QLatin1String attribute, const QList<LMElementValue>& changes) override;
+    void endSetting() override { endReading(); }
 
 private:
     struct Known {
@@ -59,6 +61,7 @@ private:
     LMX11ApplicationIndex& m_index;
     LMX11WindowReader m_reader;
     LMX11FrameSetter m_setter;
-    QHash<qint64, Known> m_known; ///< By window, while reading a batch.
+    QHash<qint64, Known> m_known;           ///< By window, while reading or setting a batch.
+    QHash<qint64, LMAttributeValue> m_done; ///< By window, what a batch has set it to.
     int m_readingDepth = 0;
 };

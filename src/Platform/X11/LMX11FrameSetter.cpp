@@ -38,11 +38,24 @@ bool isWithinDecorations(const QPoint& miss, const LMX11Geometry& geometry) {
            std::abs(miss.y()) <= margins.top() + margins.bottom();
 }
 
+/// Whether managers obey a single request: no state of the window has to be changed for it.
+bool isPlain(const LMX11Window& window, bool forResizing) {
+    return window.exists && !window.states.isFullscreen && !window.states.isMaximized() &&
+           (!forResizing || (window.structure.isResizable && !window.states.isShaded));
+}
+
 } // namespace
 
 bool LMX11FrameSetter::Goal::isReached(const LMX11Geometry& geometry) const {
     const QRect frame = geometry.frame();
     return (!origin || frame.topLeft() == *origin) && (!size || frame.size() == *size);
+}
+
+/// Managers push a window that grows beyond the screen; the user may have put it there. A manager
+/// with another notion of gravity is off by the decorations, always by the same.
+bool LMX11FrameSetter::Goal::mayGetNearer(const LMX11Geometry& geometry) const {
+    const QPoint miss = origin.value_or(QPoint()) - geometry.frame().topLeft();
+    return origin && !miss.isNull() && (size || isWithinDecorations(miss, geometry));
 }
 
 /// Panels take little: a maximised window still covers nine tenths of its monitor.
@@ -66,23 +79,73 @@ LMX11FrameSetter::LMX11FrameSetter(LMX11Connection& connection, LMX11WindowManag
 LMPlatformStatus LMX11FrameSetter::setPosition(const LMX11Reading& reading,
                                                const QPointF& position) {
     LMX11Window window = reading.windows.first();
-    const QPointF place = reading.coordinates.rootFromGlobal(position);
-    const QPoint wanted(pixel(place.x()), pixel(place.y()));
-    m_refusals.remove(window.identifier);
-    const LMPlatformStatus status = reach(reading.coordinates, window, {wanted, std::nullopt});
-    const QPoint granted = window.geometry.frame().topLeft();
-    if (window.exists && granted != wanted)
-        m_refusals.insert(window.identifier, {wanted, granted});
+    const Goal goal = goalFor(position, reading.coordinates, window);
+    const LMPlatformStatus status = reach(reading.coordinates, window, goal);
+    noteRefusal(window, *goal.origin);
     return status;
 }
 
 LMPlatformStatus LMX11FrameSetter::setSize(const LMX11Reading& reading, const QSizeF& size) {
     LMX11Window window = reading.windows.first();
+    return reach(reading.coordinates, window, goalFor(size, reading.coordinates, window));
+}
+
+LMX11FrameSetter::Goal LMX11FrameSetter::goalFor(const LMAttributeValue& value,
+                                                 const LMX11Coordinates& coordinates,
+                                                 const LMX11Window& window) const {
+    if (const auto* position = std::get_if<QPointF>(&value)) {
+        const QPointF place = coordinates.rootFromGlobal(*position);
+        return {QPoint(pixel(place.x()), pixel(place.y())), std::nullopt};
+    }
+    const auto size = std::get<QSizeF>(value);
     const QPoint place = window.geometry.frame().topLeft();
     const auto refusal = m_refusals.constFind(window.identifier);
     const bool isRefused = refusal != m_refusals.constEnd() && refusal->granted == place;
-    const QSize wanted(pixel(size.width()), pixel(size.height()));
-    return reach(reading.coordinates, window, {isRefused ? refusal->wanted : place, wanted});
+    return {isRefused ? refusal->wanted : place, QSize(pixel(size.width()), pixel(size.height()))};
+}
+
+void LMX11FrameSetter::noteRefusal(const LMX11Window& window, const QPoint& wanted) {
+    const QPoint granted = window.geometry.frame().topLeft();
+    if (window.exists && granted != wanted)
+        m_refusals.insert(window.identifier, {wanted, granted});
+    else
+        m_refusals.remove(window.identifier);
+}
+
+QList<bool> LMX11FrameSetter::setTogether(LMX11Reading& reading,
+                                          const QList<LMAttributeValue>& values) {
+    struct Request {
+        Goal goal;
+        LMX11Geometry before;
+        bool isSent = false;
+    };
+    QList<Request> requests;
+    QList<LMX11Window*> asked;
+    for (qsizetype index = 0; index < values.size(); ++index) {
+        LMX11Window& window = reading.windows[index];
+        const Goal goal = goalFor(values[index], reading.coordinates, window);
+        const bool isSent = isPlain(window, goal.size.has_value()) &&
+                            !goal.fillsMonitor(reading.coordinates.monitors()) &&
+                            send(window, goal);
+        requests.append({goal, window.geometry, isSent});
+        if (isSent)
+            asked.append(&window);
+    }
+    if (!asked.isEmpty() &&
+        !m_windowManager.waitUntilCaughtUp(after(asked.size() * answerTime), answerTime))
+        return QList<bool>(values.size(), false);
+    m_reader.refresh(asked);
+    QList<bool> done;
+    for (qsizetype index = 0; index < requests.size(); ++index) {
+        const LMX11Window& window = reading.windows[index];
+        const auto& [goal, before, isSent] = requests[index];
+        const bool isAnswered = isSent && window.geometry != before;
+        done.append(window.exists && (goal.isReached(window.geometry) ||
+                                      (isAnswered && !goal.mayGetNearer(window.geometry))));
+        if (isSent || done.last())
+            noteRefusal(window, *goal.origin);
+    }
+    return done;
 }
 
 /// Takes the window to the goal. Success says that the manager has done what it is ready to do.
@@ -112,28 +175,35 @@ LMPlatformStatus LMX11FrameSetter::reach(const LMX11Coordinates& coordinates, LM
         status = resizeShaded(window, goal);
 
     const Goal place{goal.origin, std::nullopt};
-    // Managers push a window that grows beyond the screen; the user may have put it there.
-    if (status && goal.size && !place.isReached(window.geometry))
+    if (status && goal.size && goal.mayGetNearer(window.geometry))
         status = request(window, place);
-    // A manager with another notion of gravity is off by the decorations, always by the same.
-    const QPoint miss = goal.origin.value_or(QPoint()) - window.geometry.frame().topLeft();
-    if (status && !place.isReached(window.geometry) && isWithinDecorations(miss, window.geometry))
+    if (status && place.mayGetNearer(window.geometry)) {
+        const QPoint miss = *goal.origin - window.geometry.frame().topLeft();
         status = request(window, {*goal.origin + miss, std::nullopt});
+    }
     return status;
+}
+
+/// Asks for what differs from the goal. False when nothing does.
+bool LMX11FrameSetter::send(const LMX11Window& window, const Goal& goal) {
+    const LMX11Geometry& geometry = window.geometry;
+    std::optional<QPoint> place;
+    std::optional<QSize> size;
+    if (goal.origin && geometry.frame().topLeft() != *goal.origin)
+        place = geometry.requestOrigin(*goal.origin);
+    if (goal.size && geometry.frame().size() != *goal.size)
+        size = geometry.clientSize(*goal.size);
+    if (!place && !size)
+        return false;
+    m_windowManager.moveResize(window.identifier, place, size);
+    return true;
 }
 
 /// Asks for what differs from the goal, waits, and reads the window again.
 LMPlatformStatus LMX11FrameSetter::request(LMX11Window& window, const Goal& goal) {
     const LMX11Geometry before = window.geometry;
-    std::optional<QPoint> place;
-    std::optional<QSize> size;
-    if (goal.origin && before.frame().topLeft() != *goal.origin)
-        place = before.requestOrigin(*goal.origin);
-    if (goal.size && before.frame().size() != *goal.size)
-        size = before.clientSize(*goal.size);
-    if (!place && !size)
+    if (!send(window, goal))
         return LMPlatformStatus::success();
-    m_windowManager.moveResize(window.identifier, place, size);
     if (!m_windowManager.waitUntilCaughtUp(m_deadline))
         return failure(LMPlatformError::CannotComplete);
     LMPlatformStatus status = refresh(window);
@@ -176,7 +246,7 @@ LMPlatformStatus LMX11FrameSetter::changeState(LMX11Window& window, Change chang
 }
 
 LMPlatformStatus LMX11FrameSetter::refresh(LMX11Window& window) {
-    m_reader.refresh(window);
+    m_reader.refresh({&window});
     if (window.exists)
         return LMPlatformStatus::success();
     return failure(m_connection.isConnected() ? LMPlatformError::InvalidElement

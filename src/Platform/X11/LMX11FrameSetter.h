@@ -44,6 +44,12 @@ public:
     /// The window keeps its position.
     LMPlatformStatus setSize(const LMX11Reading& reading, const QSizeF& size);
 
+    /// Sets a position or a size for each window of the reading, as far as one request for each
+    /// will do: sends all requests, waits for them together and brings the reading up to date.
+    /// Answers which windows need nothing more; the others are to be set one by one. Takes as long
+    /// as the manager goes on changing windows; a frozen one costs 250 ms.
+    QList<bool> setTogether(LMX11Reading& reading, const QList<LMAttributeValue>& values);
+
 private:
     using Deadline = LMX11Connection::Deadline;
     using Change = LMX11WindowManager::Change;
@@ -54,6 +60,8 @@ private:
         std::optional<QSize> size;
 
         bool isReached(const LMX11Geometry& geometry) const;
+        /// Whether a request for the place alone may bring a window nearer that was asked already.
+        bool mayGetNearer(const LMX11Geometry& geometry) const;
         bool fillsMonitor(const QList<QRect>& monitors) const;
     };
     /// A position that the manager did not grant, and the one it gave instead.
@@ -62,6 +70,10 @@ private:
         QPoint granted;
     };
 
+    Goal goalFor(const LMAttributeValue& value, const LMX11Coordinates& coordinates,
+                 const LMX11Window& window) const;
+    bool send(const LMX11Window& window, const Goal& goal);
+    void noteRefusal(const LMX11Window& window, const QPoint& wanted);
     LMPlatformStatus reach(const LMX11Coordinates& coordinates, LMX11Window& window,
                            const Goal& goal);
     LMPlatformStatus request(LMX11Window& window, const Goal& goal);

@@ -89,19 +89,27 @@ QStringList LMX11WindowManager::missingProtocols() {
 /// and passes on those for windows that were never mapped (ICCCM 4.1.5). It does so in the order in
 /// which requests came. openbox, xfwm4, marco, kwin and mutter have all carried out a request to
 /// move a window by then.
-bool LMX11WindowManager::waitUntilCaughtUp(LMX11Connection::Deadline deadline) {
+bool LMX11WindowManager::waitUntilCaughtUp(LMX11Connection::Deadline deadline,
+                                           std::optional<std::chrono::milliseconds> patience) {
+    using Clock = std::chrono::steady_clock;
     m_fence = m_fence == std::numeric_limits<int16_t>::max() ? int16_t(0) : int16_t(m_fence + 1);
     const auto place = static_cast<uint32_t>(m_fence);
     xcb_configure_window(m_connection.xcb(), m_connection.ownWindow(), XCB_CONFIG_WINDOW_X, &place);
-    const auto isOurs = [this](const xcb_generic_event_t& event) {
+    bool hasCaughtUp = false;
+    const auto isSignOfLife = [&](const xcb_generic_event_t& event) {
         if (LMXcbEventType(event) != XCB_CONFIGURE_NOTIFY)
             return false;
         const auto& notify = reinterpret_cast<const xcb_configure_notify_event_t&>(event);
-        return notify.window == m_connection.ownWindow() && notify.x == m_fence;
+        hasCaughtUp = notify.window == m_connection.ownWindow() && notify.x == m_fence;
+        return hasCaughtUp || (patience && Clock::now() < deadline);
     };
     if (m_missedFences >= mostMissedFences)
-        deadline = std::min(deadline, std::chrono::steady_clock::now() + frozenManagerTime);
-    const bool hasCaughtUp = m_connection.waitForEvent(isOurs, deadline);
+        deadline = std::min(deadline, Clock::now() + frozenManagerTime);
+    const auto nextDeadline = [&] {
+        return patience ? std::min(deadline, Clock::now() + *patience) : deadline;
+    };
+    while (!hasCaughtUp && m_connection.waitForEvent(isSignOfLife, nextDeadline())) {
+    }
     m_missedFences = hasCaughtUp ? 0 : m_missedFences + 1;
     return hasCaughtUp;
 }

@@ -23,8 +23,10 @@ public:
 
     /// Waits until the manager has worked through what was sent to it before. False when it does
     /// not within the deadline. Returns at once when no manager runs, and soon when it has missed
-    /// many deadlines in a row.
-    bool waitUntilCaughtUp(LMX11Connection::Deadline deadline);
+    /// many deadlines in a row. Patience is for many requests: how long to wait, within the
+    /// deadline, for the next sign that the manager is at work, a window that changes.
+    bool waitUntilCaughtUp(LMX11Connection::Deadline deadline,
+                           std::optional<std::chrono::milliseconds> patience = {});
 
     /// Asks for a new place, a new size or both: whatever is given. North-west gravity: the place
     /// is that of the corner of the window with its decorations, root coordinates.

@@ -52,8 +52,7 @@ LMX11Reading LMX11WindowReader::readFrames(const QList<xcb_window_t>& identifier
     return reading;
 }
 
-void LMX11WindowReader::refresh(LMX11Window& window) {
-    const Windows windows{&window};
+void LMX11WindowReader::refresh(const Windows& windows) {
     receiveFrames(requestFrames(m_connection, windows), windows);
     waitForAnimations(windows);
 }

@@ -37,11 +37,11 @@ public:
     /// Geometry, states and virtual desktop only.
     LMX11Reading readFrames(const QList<xcb_window_t>& windows);
 
-    /// The same once more for a window that was read before, under the manager of that time.
-    void refresh(LMX11Window& window);
+    using Windows = QList<LMX11Window*>;
+    /// The same once more for windows that were read before, under the manager of that time.
+    void refresh(const Windows& windows);
 
 private:
-    using Windows = QList<LMX11Window*>;
     using Requests = std::vector<LMX11FrameRequest>;
     /// The child of the root that holds a window; the default when that is the window itself.
     struct TopLevel {
