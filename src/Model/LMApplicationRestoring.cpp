@@ -51,6 +51,35 @@ void restoreWindow(LMApplication& application, LMWindow& window, LMStoredWindow&
         LMWaitAndHide(environment, application.processIdentifier());
 }
 
+/// What a pass is going to set, for the back end to do at once. Nothing where windows may have to
+/// be shown before they are moved.
+QList<LMElementValue> plannedChanges(const LMRestorePlan& plan, bool positions,
+                                     LMDesktop& desktop) {
+    QList<LMElementValue> changes;
+    if (positions && desktop.screens().screensHaveSeparateSpaces())
+        return changes;
+    for (const LMWindowAssignment& assignment : plan.assignments) {
+        if (!assignment.match.storedWindow)
+            continue;
+        const QRectF frame = assignment.match.storedWindow->frame();
+        changes.append({assignment.window->element(), positions ? LMAttributeValue(frame.topLeft())
+                                                                : LMAttributeValue(frame.size())});
+    }
+    return changes;
+}
+
+void restoreAssignedWindows(LMApplication& application, const LMRestorePlan& plan, bool positions) {
+    LMDesktop& desktop = application.environment().desktop;
+    const LMSettingScope scope(desktop.accessibility(),
+                               positions ? LMAttribute::Position : LMAttribute::Size,
+                               plannedChanges(plan, positions, desktop));
+    for (const LMWindowAssignment& assignment : plan.assignments) {
+        if (assignment.match.storedWindow)
+            restoreWindow(application, *assignment.window, *assignment.match.storedWindow,
+                          positions);
+    }
+}
+
 void logUnmatchedWindows(const LMLogger& logger, const LMRestorePlan& plan) {
     if (!logger.isDebugEnabled())
         return;
@@ -94,10 +123,7 @@ void LMApplication::restoreWindowSizesOrPositions(bool positions) {
             LMActivateAndWait(environment(), running->processIdentifier);
     }
     const LMRestorePlan plan = restorePlan();
-    for (const LMWindowAssignment& assignment : plan.assignments) {
-        if (assignment.match.storedWindow)
-            restoreWindow(*this, *assignment.window, *assignment.match.storedWindow, positions);
-    }
+    restoreAssignedWindows(*this, plan, positions);
     logUnmatchedWindows(environment().logger, plan);
     if (storesFloating && running->isHidden && !LMSpacesInUse(environment()))
         LMWaitAndHide(environment(), running->processIdentifier);
