@@ -13,6 +13,7 @@ TEST_F(ModelTest, AFullDiskLeavesTheOldContentsAndTheChangesInMemory) {
         reopen();
         const std::vector<LMStoredWindow*> stored = all<LMStoredWindow>();
         const QByteArray before = LMFileContent(path());
+        all<LMApplication>().front()->setName(u"written first"_s);
         stored[0]->orderedMatchingWindows().front()->setTitle(longTitle);
         context().deleteObject(stored[1]);
         // Another change after the failure, and another failure.

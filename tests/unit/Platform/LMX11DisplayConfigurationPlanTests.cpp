@@ -29,7 +29,11 @@ TEST(LMX11DisplayConfigurationPlan, AMirroredPairStaysTogether) {
 TEST(LMX11DisplayConfigurationPlan, RefusesWhatCannotBe) {
     using enum LMPlatformError;
     const Builder two = Builder({3360, 1080}).pictures({hd, side}, 0);
-    const Builder split = LMX11SplitPicture().pictures({{3440, 0, 800, 600}});
+    Builder split({4360, 1440}); // One wide picture, of which the user made two halves.
+    split.addCrtc({0, 0, 3440, 1440});
+    split.monitor(QStringLiteral("left"), {0, 0, 1720, 1440}, {101});
+    split.monitor(QStringLiteral("right"), {1720, 0, 1720, 1440}, {});
+    split.pictures({{3440, 0, 800, 600}});
     constexpr int most = std::numeric_limits<qint32>::max();
     const auto refusal = [](const Builder& builder, quint32 displayID, const QPoint& origin) {
         return LMX11PlanArrangement(builder.snapshot, {{displayID, origin}}).error().error;

@@ -43,11 +43,3 @@ public:
 
     LMX11ScreensSnapshot snapshot;
 };
-
-/// One wide picture, of which the user made two halves as "xrandr --setmonitor" does.
-inline LMX11SnapshotBuilder LMX11SplitPicture(const QSize& rootSize = {4360, 1440}) {
-    LMX11SnapshotBuilder builder(rootSize);
-    builder.addCrtc({0, 0, 3440, 1440});
-    return builder.monitor(QStringLiteral("left"), {0, 0, 1720, 1440}, {101})
-        .monitor(QStringLiteral("right"), {1720, 0, 1720, 1440}, {});
-}
