@@ -69,21 +69,17 @@ TEST(LMX11ApplicationTests, FindsTheProcessOfAWindow) {
 
 TEST(LMX11ApplicationTests, PicksTheBestOfAWindowsIcons) {
     std::vector<uint32_t> icons;
-    for (const auto& [width, height, pixel] :
-         {std::tuple(16u, 16u, 0xff000010), {64u, 48u, 0xff000040}, {32u, 32u, 0xff000020}}) {
+    for (const auto& [width, height] : {std::pair(16u, 16u), {64u, 48u}, {32u, 32u}}) {
         icons.insert(icons.end(), {width, height});
-        icons.insert(icons.end(), size_t(width) * height, pixel);
+        icons.insert(icons.end(), size_t(width) * height, width);
     }
-    const std::pair<int, QRgb> rows[] = {{8, 0xff000010}, {17, 0xff000020}, {256, 0xff000040}};
-    for (const auto& [size, pixel] : rows)
-        EXPECT_EQ(LMX11BestIcon(icons, size).pixel(0, 0), pixel) << size;
-    EXPECT_EQ(LMX11BestIcon(icons, 64).size(), QSize(64, 48));
-
-    for (const std::vector<uint32_t>& malformed : std::initializer_list<std::vector<uint32_t>>{
-             {}, {16}, {16, 16}, {16, 16, 1}, {0, 0, 1}, {~0u, ~0u, 1}, {0x10000, 0x10000, 1}})
-        EXPECT_TRUE(LMX11BestIcon(malformed, 16).isNull());
-    icons.resize(icons.size() - 1);
+    for (const auto& [wanted, width] : {std::pair(8, 16), {17, 32}, {256, 64}})
+        EXPECT_EQ(LMX11BestIcon(icons, wanted).pixel(0, 0), QRgb(width)) << wanted;
+    icons.pop_back();
     EXPECT_EQ(LMX11BestIcon(icons, 32).size(), QSize(64, 48)) << "the last one is cut off";
+    for (const std::vector<uint32_t>& malformed : std::initializer_list<std::vector<uint32_t>>{
+             {}, {16}, {16, 16, 1}, {0, 0, 1}, {~0u, ~0u, 1}, {0x10000, 0x10000, 1}})
+        EXPECT_TRUE(LMX11BestIcon(malformed, 16).isNull());
 }
 
 TEST(LMX11ApplicationTests, ReadsSettingsOfTheSession) {

@@ -4,7 +4,6 @@
 #include "Support.h"
 #include "Utilities/LMBaseDirectories.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 #include <filesystem>
@@ -26,14 +25,6 @@ TEST_F(LMFoldersTest, MakesItsFoldersForTheOwnerOnly) {
     EXPECT_FALSE(QFileInfo::exists(folders.storedWindowsURL()));
     EXPECT_NE(folders.uniqueScreenshotURL(), folders.uniqueScreenshotURL());
     EXPECT_TRUE(messages.isEmpty());
-}
-
-TEST_F(LMFoldersTest, FileInPlaceOfAFolder) {
-    const LMFolders folders(directory.path(), logger);
-    QDir(directory.path()).mkdir(u"Rook"_qs);
-    write(u"Rook/Screenshots"_qs, "a file");
-    EXPECT_TRUE(folders.screenshotsDirectoryURL().isNull());
-    EXPECT_TRUE(folders.uniqueScreenshotURL().isNull());
     EXPECT_TRUE(LMFolders(QString(), logger).storedWindowsURL().isNull());
     EXPECT_EQ(messages.join(u'|'), u"Unable to find or create application support directory: "
                                    "No path found for directory in domain."_qs);
