@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Model/Store/LMManagedObject.h"
+#include "Platform/LMActivity.h"
 
 #include <QString>
 
@@ -33,6 +34,7 @@ public:
 private:
     void runAsAppleScript() const;
     void runAsShellScript();
+    LMActivityScope announceRun() const;
 
     QString m_label;
     QString m_script;

@@ -2,8 +2,10 @@
 #include "Model/LMAction.h"
 
 #include "Model/LMShellScript.h"
+#include "Model/LMWorkspace.h"
 #include "Platform/LMEnvironment.h"
 #include "Platform/LMScriptHost.h"
+#include "Utilities/LMFormat.h"
 #include "Utilities/LMLogger.h"
 
 #include <QFile>
@@ -38,11 +40,21 @@ void LMAction::run() {
         runAsShellScript();
 }
 
+// A script that never ends holds the whole program: whoever wonders must find out which it is.
+LMActivityScope LMAction::announceRun() const {
+    const QString workspaceName = workspace() ? workspace()->name() : QString();
+    const QString what =
+        LMFormat(LMLocalized("Running the action “%@” of “%@”…"), {m_label, workspaceName});
+    environment().logger.info(QStringLiteral("%@"), {what});
+    return LMActivityScope(environment(), what);
+}
+
 // The log names the parts of the error, not what they say: that may quote the user's documents.
 void LMAction::runAsAppleScript() const {
     LMScriptHost* host = environment().scriptHost;
     if (!host || !host->canCompile(m_script))
         return;
+    const LMActivityScope running = announceRun();
     const QStringList errorKeys = host->executeAndReturnError(m_script);
     if (!errorKeys.isEmpty())
         environment().logger.error(QStringLiteral("AppleScript error: %@"),
@@ -65,6 +77,7 @@ void LMAction::runAsShellScript() {
     const QString path = LMWriteScriptToTemporaryFile(m_script, environment().ownBundleIdentifier);
     if (path.isNull())
         return;
+    const LMActivityScope running = announceRun();
     LMRunShellScriptAtPath(path, logger);
     QFile::remove(path);
 }

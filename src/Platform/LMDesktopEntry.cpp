@@ -103,6 +103,20 @@ QStringList LMArgumentsOfExec(const QString& exec) {
     return arguments;
 }
 
+QString LMExecOfArgument(const QString& argument) {
+    // The rules of the Exec key first, those of string values on top.
+    QString quoted;
+    for (const QChar character : argument) {
+        if (QStringLiteral("\"`$\\").contains(character))
+            quoted += u'\\';
+        quoted += character;
+        if (character == u'%')
+            quoted += character;
+    }
+    quoted = u'"' + quoted + u'"';
+    return quoted.replace(u'\\', QLatin1String("\\\\")).replace(u'\n', QLatin1String("\\n"));
+}
+
 QString LMProgramName(const QStringList& arguments) {
     bool isScript = false;
     for (const QString& argument : arguments) {

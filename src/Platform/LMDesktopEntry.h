@@ -31,6 +31,9 @@ std::optional<LMDesktopEntry> LMDesktopEntryFromKeyFile(const LMKeyFile& file,
 
 /// The arguments of an Exec line, with its quoting resolved.
 QStringList LMArgumentsOfExec(const QString& exec);
+/// The other way round: one argument, quoted and escaped so that it stands for itself as the value
+/// of an Exec key.
+QString LMExecOfArgument(const QString& argument);
 
 /// The name of the program that a command line starts, without its folder: interpreters give the
 /// script, "env" and its like the program behind them. Empty when the command line does not tell,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Platform/LMActivity.h"
 #include "Platform/LMApplications.h"
 #include "Utilities/LMStringAdditions.h"
 
@@ -16,6 +17,7 @@ class LMKnownApplications;
 class LMLogger;
 class LMNotificationCenter;
 class LMScriptHost;
+class LMUpdater;
 class LMUserDefaults;
 
 /// Which applications were hidden or shown on the way, so that it can be undone. Nothing is kept
@@ -49,7 +51,10 @@ struct LMEnvironment {
     std::optional<QStringList> blockedApplications{}; ///< Built on first use.
     double floatingWindowActivationDelay = -1.0;      ///< Microseconds; -1 until read.
     LMRegexCache regexCache{};
+    LMActivity activity{};
 
     /// Where there is none, no script counts as one that compiles.
     LMScriptHost* scriptHost = nullptr;
+    /// Where there is none, nobody can tell whether there is a newer version.
+    LMUpdater* updater = nullptr;
 };

@@ -57,6 +57,14 @@ QString LMConfigHomeDirectory() {
     return baseDirectory("XDG_CONFIG_HOME", QLatin1String("/.config"));
 }
 
+QString LMActivityFilePath(qint64 processIdentifier) {
+    const QString directory = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    if (!QDir::isAbsolutePath(directory))
+        return {};
+    return QStringLiteral("%1/rook-%2.json")
+        .arg(QDir::cleanPath(directory), QString::number(processIdentifier));
+}
+
 QStringList LMDataDirectories() {
     return directories(LMDataHomeDirectory(), "XDG_DATA_DIRS",
                        QLatin1String("/usr/local/share:/usr/share"));

@@ -19,6 +19,9 @@ QString LMConfigHomeDirectory(); ///< $XDG_CONFIG_HOME, else ~/.config
 QStringList LMDataDirectories();   ///< Then $XDG_DATA_DIRS, else /usr/local/share:/usr/share
 QStringList LMConfigDirectories(); ///< Then $XDG_CONFIG_DIRS, else /etc/xdg
 
+/// Where the resident process notes what it is doing, in $XDG_RUNTIME_DIR; null without one.
+QString LMActivityFilePath(qint64 processIdentifier);
+
 /// Makes a directory and those above it, each with mode 0700 as those rules ask. One that
 /// exists already is left as it is; a file in its place is an error.
 LMResult<void, std::error_code> LMCreateDirectory(const QString& path);

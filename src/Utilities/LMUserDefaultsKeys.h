@@ -24,6 +24,7 @@ LM_KEY(SuppressStoreAllAlert);                 ///< bool: skip the replace confi
 LM_KEY(SuppressStoreActiveApplicationSuccess); ///< bool: skip the success message
 LM_KEY(SuppressStoreActiveWindowSuccess);      ///< bool: skip the success message
 LM_KEY(SuppressStoreAllSuccess);               ///< bool: skip the success message
+LM_KEY(moveToApplicationsFolderAlertSuppress); ///< bool: never offer to add a launcher
 
 LM_KEY(DisableSpacesSupport); ///< bool: never count the user as working with several spaces
 LM_KEY(EnableSpacesSupport);  ///< bool: always do so, unless disabled

@@ -21,6 +21,7 @@ protected:
         action->setScript(script);
         test.messages.clear();
         action->run();
+        test.messages.removeAll(u"Running the action “” of “”…"_s);
         return test.messages.join(u'|').replace(u"Shell script returned: "_s, u"> "_s);
     }
 
@@ -49,12 +50,16 @@ TEST_F(ActionTest, ShellScriptsRunUnderTheirInterpreter) {
         {u"#! /bin/sh\necho"_s, error + u" /bin/sh is not executable"_s},
         {u"#!/etc\r\necho"_s, error + u"/etc is not executable"_s},
         {u"#!/bin/sh\recho hi"_s, u"Failed to run shell script"_s},
+        {u"#!/bin/sh\r\necho hi\r\n"_s, u"Failed to run shell script"_s}, // The kernel takes the CR along.
+        {u"echo hi\r\n"_s, u"> hi\\r\\n"_s, u"#!/bin/bash\n\necho hi\r\n"_s},
+        {u"#!/bin/sh\0x\necho"_s, error + u"/bin/sh\\u0000x is not executable"_s},
         {u"x\xd800y"_s, {}, u"#!/bin/bash\n\nx\xd800y"_s}, // Not to be written as UTF-8.
     };
     for (const auto& one : cases) {
         EXPECT_EQ(run(one.script), one.logged) << one.script.toStdString();
         EXPECT_EQ(action->script(), one.rewritten);
     }
+    EXPECT_LT(run(u"#!/bin/sh\nhead -c 10000000 /dev/zero | tr '\\0' x"_s).size(), 2000);
     for (const QString& kind : {u"shell script"_s, u"AppleScript"_s, u""_s})
         EXPECT_EQ(run(u"#!/bin/sh\necho hi"_s, kind), QString());
     const QDir temporary(test.directory.path());
