@@ -130,27 +130,39 @@ void LMObjectContext::deleteObject(LMManagedObject* object) {
 // --- freeing
 // --------------------------------------------------------------------------------------
 
-void LMObjectContext::discardTransientObjects() {
+LMObjectContext::Mark LMObjectContext::mark() const {
+    Mark mark;
+    for (const Entity& entity : m_entities)
+        mark.push_back(entity.nextKey);
+    return mark;
+}
+
+bool LMObjectContext::isYounger(const LMManagedObject& object, const Mark& mark) {
+    return mark.empty() || object.m_objectID.key >= mark[object.m_objectID.entity];
+}
+
+void LMObjectContext::discardTransientObjects(const Mark& since) {
     std::vector<LMManagedObject*> doomed;
     for (LMManagedObject* object : m_deleted) {
-        if (object->m_isInserted)
+        if (object->m_isInserted && isYounger(*object, since))
             doomed.push_back(object);
     }
     for (const LMEntityDescription& entity : m_model.entities()) {
         for (LMManagedObject* object : unattachedObjects(entity))
-            discard(object, doomed);
+            discard(object, since, doomed);
     }
     freeObjects(doomed);
 }
 
-void LMObjectContext::discard(LMManagedObject* object, std::vector<LMManagedObject*>& doomed) {
-    if (!object->m_isInserted || object->m_isDeleted)
+void LMObjectContext::discard(LMManagedObject* object, const Mark& since,
+                              std::vector<LMManagedObject*>& doomed) {
+    if (!object->m_isInserted || object->m_isDeleted || !isYounger(*object, since))
         return;
     const std::vector<LMManagedObject*> members = object->ownedObjects();
     deleteObject(object);
     doomed.push_back(object);
     for (LMManagedObject* member : members)
-        discard(member, doomed);
+        discard(member, since, doomed);
 }
 
 void LMObjectContext::freeObjects(const std::vector<LMManagedObject*>& doomed) {

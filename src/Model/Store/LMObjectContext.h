@@ -65,9 +65,13 @@ public:
     /// failure nothing is written, the changes stay for the next save, and the text says why.
     LMResult<void, QString> save();
 
+    /// A moment in the life of the context: which objects are older, which younger.
+    using Mark = std::vector<qint64>;
+    Mark mark() const;
+
     /// Drops objects that were never saved and that nothing owns: live records that only served a
-    /// comparison. Pointers to them become invalid.
-    void discardTransientObjects();
+    /// comparison. Pointers to them become invalid. With a mark, those older than it stay.
+    void discardTransientObjects(const Mark& since = {});
 
 private:
     friend class LMManagedObject;
@@ -101,7 +105,8 @@ private:
     LMStoreChanges changesToWrite() const;
     void didSave();
 
-    void discard(LMManagedObject* object, std::vector<LMManagedObject*>& doomed);
+    static bool isYounger(const LMManagedObject& object, const Mark& mark);
+    void discard(LMManagedObject* object, const Mark& since, std::vector<LMManagedObject*>& doomed);
     void freeObjects(const std::vector<LMManagedObject*>& doomed);
     static void freeObjectsFrom(std::vector<std::unique_ptr<LMManagedObject>>& objects,
                                 qint64 firstKey);
