@@ -11,12 +11,12 @@
 #include "Platform/LMDesktopFactory.h"
 #include "Platform/LMEnvironment.h"
 #include "Platform/LMKnownApplications.h"
+#include "Platform/PackageKit/LMPackageKitUpdater.h"
 #include "Platform/X11/LMX11Desktop.h"
 #include "Utilities/LMFolders.h"
 #include "Utilities/LMFormat.h"
 #include "Utilities/LMLogger.h"
 #include "Utilities/LMNotificationCenter.h"
-#include "Utilities/LMPropertyList.h"
 #include "Utilities/LMUserDefaults.h"
 
 #include <QDBusConnection>
@@ -56,27 +56,10 @@ int handOver(const QDBusConnection& bus) {
     return LMExitCode::Done;
 }
 
-void registerDefaults(LMUserDefaults& userDefaults, const LMLogger& logger) {
-    QString error;
-    const auto defaults =
-        LMPropertyListFromFile(QStringLiteral(":/rook/RegistrationDefaults.plist"), &error);
-    if (!defaults)
-        logger.error(QStringLiteral("Registered defaults not read: %@"), {error});
-    else
-        userDefaults.registerDefaults(defaults->toMap());
-}
-
-QString storeFailureText(const LMStoreError& error) {
-    return QStringList{error.detail, LMStoredWindowsStore::storeFailureMessageText(),
-                       error.informativeText()}
-        .join(QLatin1Char('\n'));
-}
-
 /// Everything the resident process consists of besides the desktop, in the order it is built.
 int serve(LMFrontEnd& frontEnd, LMDesktop& desktop, LMLogger& logger, LMUnixSignals& signals,
           const QDBusConnection& bus) {
     LMUserDefaults userDefaults(LMUserDefaults::defaultFilePath(), logger);
-    registerDefaults(userDefaults, logger);
     LMFolders folders = LMFolders::forCurrentUser(logger);
     LMSystemClock clock;
     LMNotificationCenter notificationCenter;
@@ -84,17 +67,13 @@ int serve(LMFrontEnd& frontEnd, LMDesktop& desktop, LMLogger& logger, LMUnixSign
         LMKnownApplications::fromPropertyList(QStringLiteral(":/rook/Known Applications.plist"));
     LMEnvironment environment{desktop, userDefaults,       folders,          clock,
                               logger,  notificationCenter, knownApplications};
+    LMPackageKitUpdater updater(QStringLiteral("rook"), &QDBusConnection::systemBus, logger);
+    environment.updater = &updater;
     LMStoredWindowsStore store(environment);
-    if (const auto opened = store.open(); !opened)
-        return complain(storeFailureText(opened.error()));
-    if (store.backupStoredWindowsIfNecessary() == LMBackupResult::NewerVersion)
-        return complain(LMStoredWindowsStore::versionMismatchMessageText() + QLatin1Char('\n') +
-                        LMStoredWindowsStore::versionMismatchInformativeText());
-
     const auto userInterface = frontEnd.makeUserInterface(desktop, clock, logger);
     LMApplicationDelegate delegate(environment, store, *userInterface);
-    QObject::connect(&signals, &LMUnixSignals::terminationRequested, qApp,
-                     [] { QCoreApplication::quit(); });
+    QObject::connect(&signals, &LMUnixSignals::terminationRequested, &delegate,
+                     [&delegate] { delegate.quit(); });
     int exitCode = LMExitCode::Done;
     QObject::connect(&delegate, &LMApplicationDelegate::quitRequested, qApp,
                      [&exitCode](const QString& reason) {
@@ -103,16 +82,15 @@ int serve(LMFrontEnd& frontEnd, LMDesktop& desktop, LMLogger& logger, LMUnixSign
                          QCoreApplication::quit();
                      });
     delegate.dbusService().registerOn(bus);
-    delegate.applicationDidFinishLaunching();
-    frontEnd.setCommitDataHandler([&store] { store.saveWindows(); });
+    frontEnd.setCommitDataHandler([&delegate] { delegate.commitData(); });
     // The toolkit leaves by exit() when the X server dies and it notices first.
-    const LMExitGuard exitGuard([&store] {
-        store.cleanWindows();
-        store.saveWindows();
-    });
-    QCoreApplication::exec();
+    const LMExitGuard exitGuard([&delegate] { delegate.cleanAndSave(); });
+    if (delegate.finishLaunching())
+        QCoreApplication::exec();
     delegate.applicationWillTerminate();
-    if (!store.saveFailure().isEmpty())
+    if (!delegate.launchFailure().isEmpty())
+        exitCode = complain(delegate.launchFailure());
+    else if (!store.saveFailure().isEmpty())
         exitCode = complain(store.saveFailure());
     delegate.dbusService().unregister();
     return exitCode;

@@ -5,18 +5,14 @@
 #include "Controller/LMPermissionCheck.h"
 #include "Controller/LMUserInterface.h"
 #include "Model/LMStoredWindowsStore.h"
-#include "Model/Store/LMObjectContext.h"
 #include "Platform/LMDesktop.h"
 #include "Platform/LMEnvironment.h"
 #include "Utilities/LMFormat.h"
 
-LMCommandFrame::LMCommandFrame(const LMCommandParts& parts)
-    : m_parts(parts),
+LMCommandFrame::LMCommandFrame(const LMCommandParts& parts, const QString& label)
+    : m_parts(parts), m_activity(parts.environment, label),
+      m_transients(parts.store.managedObjectContext()),
       m_activeAtStart(LMWorkspaceAdditions(parts.environment).runningApplication()) {}
-
-LMCommandFrame::~LMCommandFrame() {
-    m_parts.store.managedObjectContext().discardTransientObjects();
-}
 
 LMCommandResult LMCommandFrame::finish() {
     if (m_activeAtStart)
@@ -26,6 +22,10 @@ LMCommandResult LMCommandFrame::finish() {
         result.refusal =
             LMFormat(LMLocalized("The windows are remembered, but not on disk yet: %@"), {failure});
     return result;
+}
+
+bool LMIsOccupied(const LMCommandParts& parts) {
+    return parts.environment.activity.isBusy() || parts.userInterface.isModalWindowOpen();
 }
 
 LMProgressScope::LMProgressScope(LMUserInterface& userInterface, const QString& label,
@@ -41,6 +41,25 @@ LMProgressScope::~LMProgressScope() {
 }
 
 namespace LMRefusal {
+
+std::optional<LMCommandResult> beforeCommand(const LMCommandParts& parts) {
+    if (auto refusal = whileOccupied(parts))
+        return refusal;
+    if (!parts.permissionCheck.checkAccessibilityEnabled())
+        return LMCommandResult::refused(permission(parts.permissionCheck));
+    return std::nullopt;
+}
+
+std::optional<LMCommandResult> whileOccupied(const LMCommandParts& parts) {
+    const LMActivity& activity = parts.environment.activity;
+    if (parts.userInterface.isModalWindowOpen())
+        return LMCommandResult::refused(
+            LMLocalized("Rook is asking something: answer that first."));
+    if (activity.isBusy())
+        return LMCommandResult::refused(
+            LMFormat(LMLocalized("Rook is busy: %@"), {activity.current().first().label}));
+    return std::nullopt;
+}
 
 QString permission(const LMPermissionCheck& check) {
     return check.missing();
@@ -64,7 +83,7 @@ QString noWindows() {
 
 QString notStored(const QString& applicationName) {
     return LMFormat(LMLocalized("No windows are stored for “%@” with the displays attached now."),
-                    {applicationName});
+                    {applicationName.left(200)});
 }
 
 QString alreadyStored(const QString& what) {

@@ -2,6 +2,8 @@
 #pragma once
 
 #include "Controller/LMCommandResult.h"
+#include "Model/Store/LMTransientScope.h"
+#include "Platform/LMActivity.h"
 #include "Platform/LMApplications.h"
 
 #include <QString>
@@ -26,22 +28,27 @@ struct LMCommandParts {
     LMFrontmostApplication& frontmostApplication;
 };
 
-/// What all commands do around their work, for as long as it lives: it remembers the application
-/// that was active, gives the focus back to it when the work was done, and lets go of the live
-/// records that only served the command.
+/// What all commands do around their work, for as long as it lives: no other command begins, the
+/// application that was active gets the focus back when the work was done, and the live records
+/// that only served the command are let go.
 class LMCommandFrame {
 public:
-    explicit LMCommandFrame(const LMCommandParts& parts);
-    ~LMCommandFrame();
-    Q_DISABLE_COPY_MOVE(LMCommandFrame)
+    /// label: what the command does, for people who ask what the process is doing.
+    LMCommandFrame(const LMCommandParts& parts, const QString& label);
 
     /// The work is done: the user's application becomes active again.
     LMCommandResult finish();
 
 private:
     const LMCommandParts& m_parts;
+    LMActivityScope m_activity;
+    LMTransientScope m_transients;
     std::optional<LMRunningApplication> m_activeAtStart;
 };
+
+/// Whether something goes on, or waits for the user's answer, that a command must not interfere
+/// with. Asked because alerts have an event loop of their own, through which everything arrives.
+bool LMIsOccupied(const LMCommandParts& parts);
 
 /// Shows the progress window with a label for as long as it lives.
 class LMProgressScope {
@@ -58,6 +65,10 @@ private:
 
 /// The reasons commands give for not running.
 namespace LMRefusal {
+/// What every command that reads or moves windows asks first: the reason why it must not begin.
+std::optional<LMCommandResult> beforeCommand(const LMCommandParts& parts);
+/// The same for commands that need no permission.
+std::optional<LMCommandResult> whileOccupied(const LMCommandParts& parts);
 QString permission(const LMPermissionCheck& check);
 QString noCurrentWorkspace();
 QString noActiveApplication();

@@ -3,6 +3,9 @@
 
 #include "Controller/LMCommandFrame.h"
 #include "Controller/LMReports.h"
+#include "Controller/LMStatusItemController.h"
+#include "Controller/LMUserCommands.h"
+#include "Controller/LMUserInterface.h"
 #include "Platform/LMEnvironment.h"
 #include "rook1adaptor.h"
 #include "Utilities/LMLogger.h"
@@ -19,8 +22,11 @@ QString asText(const QJsonObject& report) {
 
 } // namespace
 
-LMDBusService::LMDBusService(LMScriptingSupport& scriptingSupport, const LMCommandParts& parts)
-    : m_scriptingSupport(scriptingSupport), m_parts(parts), m_bus(QString()) {
+LMDBusService::LMDBusService(LMScriptingSupport& scriptingSupport, LMUserCommands& userCommands,
+                             LMStatusItemController& statusItem, const LMHotKeyCenter& hotKeyCenter,
+                             const LMCommandParts& parts)
+    : m_scriptingSupport(scriptingSupport), m_userCommands(userCommands), m_statusItem(statusItem),
+      m_hotKeyCenter(hotKeyCenter), m_parts(parts), m_bus(QString()) {
     new LMRook1Adaptor(this); // A child of the service, found by the bus through it.
 }
 
@@ -45,9 +51,19 @@ QString LMDBusService::version() const {
 
 bool LMDBusService::perform(quint32 eventCode, const QVariantMap& arguments) {
     const LMScriptCommand command{LMFourCharCode("Rook"), eventCode, arguments};
-    const auto answer = m_scriptingSupport.performDefaultImplementation(command);
-    m_lastRefusal = answer ? answer->refusal : QString();
-    return answer && answer->isDone;
+    return answer(m_scriptingSupport.performDefaultImplementation(command).value_or(
+        LMCommandResult::refused(QString())));
+}
+
+bool LMDBusService::perform(LMMenuCommand command) {
+    if (!m_parts.userInterface.canShowWindows())
+        return answer(LMCommandResult::refused(LMRefusal::noWindows()));
+    return answer(m_userCommands.perform(command));
+}
+
+bool LMDBusService::answer(const LMCommandResult& result) {
+    m_lastRefusal = result.refusal;
+    return result.isDone;
 }
 
 bool LMDBusService::RestoreAll() {
@@ -74,8 +90,32 @@ bool LMDBusService::StoreAll(bool overwrite) {
     return perform(LMFourCharCode("SAll"), {{QStringLiteral("Overwrite"), overwrite}});
 }
 
+bool LMDBusService::ShowMenu() {
+    return answer(m_statusItem.displayMenuAtCursor());
+}
+
+bool LMDBusService::LinkActiveWindow() {
+    return perform(LMMenuCommand::LinkActiveWindow);
+}
+
+bool LMDBusService::ShowStoredWindows() {
+    return perform(LMMenuCommand::ShowStoredWindowsEditor);
+}
+
+bool LMDBusService::ShowPreferences() {
+    return perform(LMMenuCommand::ShowPreferencesWindow);
+}
+
+bool LMDBusService::ShowAbout() {
+    return perform(LMMenuCommand::ShowAboutPanel);
+}
+
+bool LMDBusService::CheckForUpdates() {
+    return perform(LMMenuCommand::CheckForUpdates);
+}
+
 QString LMDBusService::Status() {
-    return asText(LMReports::status(m_parts));
+    return asText(LMReports::status(m_parts, m_hotKeyCenter));
 }
 
 QString LMDBusService::List() {

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Controller/LMMenuItem.h"
 #include "Controller/LMScriptingSupport.h"
 
 #include <QDBusConnection>
 #include <QObject>
 
+class LMHotKeyCenter;
+class LMStatusItemController;
+class LMUserCommands;
 struct LMCommandParts;
 
 /// The session bus face of the resident process: service org.rook.Rook, object /org/rook/Rook,
@@ -18,7 +22,10 @@ public:
     static constexpr QLatin1String ServiceName{"org.rook.Rook"};
     static constexpr QLatin1String ObjectPath{"/org/rook/Rook"};
 
-    LMDBusService(LMScriptingSupport& scriptingSupport, const LMCommandParts& parts);
+    /// All of them outlive the service.
+    LMDBusService(LMScriptingSupport& scriptingSupport, LMUserCommands& userCommands,
+                  LMStatusItemController& statusItem, const LMHotKeyCenter& hotKeyCenter,
+                  const LMCommandParts& parts);
 
     /// Serves calls from here on; they arrive through the event loop. The connection owns the
     /// service's name already: it is what makes this the one resident process of the session.
@@ -35,6 +42,12 @@ public Q_SLOTS:
     bool StoreActiveApplication(bool overwrite);
     bool StoreActiveWindow(bool overwrite);
     bool StoreAll(bool overwrite);
+    bool ShowMenu();
+    bool LinkActiveWindow();
+    bool ShowStoredWindows();
+    bool ShowPreferences();
+    bool ShowAbout();
+    bool CheckForUpdates();
     QString Status();
     QString List();
     QString Windows();
@@ -50,8 +63,13 @@ Q_SIGNALS:
 
 private:
     bool perform(quint32 eventCode, const QVariantMap& arguments = {});
+    bool perform(LMMenuCommand command);
+    bool answer(const LMCommandResult& result);
 
     LMScriptingSupport& m_scriptingSupport;
+    LMUserCommands& m_userCommands;
+    LMStatusItemController& m_statusItem;
+    const LMHotKeyCenter& m_hotKeyCenter;
     const LMCommandParts& m_parts;
     QDBusConnection m_bus;
     QString m_lastRefusal;

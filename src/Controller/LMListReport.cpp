@@ -9,7 +9,6 @@
 #include "Model/LMStoredWindow.h"
 #include "Model/LMStoredWindowsStore.h"
 #include "Model/LMWorkspace.h"
-#include "Model/Store/LMObjectContext.h"
 #include "Utilities/LMRectangle.h"
 
 using LMReportValues::frame;
@@ -53,6 +52,5 @@ QJsonObject LMReports::list(const LMCommandParts& parts) {
     QJsonArray workspaces;
     for (LMWorkspace* member : parts.workspaceList.workspaces())
         workspaces.append(workspace(*member));
-    parts.store.managedObjectContext().discardTransientObjects();
     return {{QStringLiteral("workspaces"), workspaces}};
 }

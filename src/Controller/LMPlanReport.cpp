@@ -6,7 +6,6 @@
 #include "Controller/LMWorkspaceList.h"
 #include "Model/LMRestoreReport.h"
 #include "Model/LMStoredWindowsStore.h"
-#include "Model/Store/LMObjectContext.h"
 #include "Utilities/LMFormat.h"
 
 using LMReportValues::frame;
@@ -66,8 +65,8 @@ QJsonObject LMReports::plan(const LMCommandParts& parts, const QString& bundleId
     LMWorkspace* workspace = parts.workspaceList.currentWorkspace();
     if (!workspace)
         return failure(LMRefusal::noCurrentWorkspace());
+    const LMTransientScope transients(parts.store.managedObjectContext());
     const std::vector<LMApplicationReport> reports = LMReportRestore(*workspace, bundleIdentifier);
-    parts.store.managedObjectContext().discardTransientObjects();
     if (reports.empty() && !bundleIdentifier.isEmpty())
         return failure(LMRefusal::notStored(bundleIdentifier));
     QJsonArray applications;

@@ -4,6 +4,7 @@
 #include <QJsonObject>
 #include <QString>
 
+class LMHotKeyCenter;
 struct LMCommandParts;
 
 /// What Rook knows, as JSON objects for scripts and for the command line's tables. The shapes are
@@ -13,8 +14,8 @@ struct LMCommandParts;
 /// nothing, neither windows nor store.
 namespace LMReports {
 
-/// Back end, permission, displays, current workspace, counts.
-QJsonObject status(const LMCommandParts& parts);
+/// Back end, permission, displays, current workspace, counts, hot keys, activity.
+QJsonObject status(const LMCommandParts& parts, const LMHotKeyCenter& hotKeyCenter);
 /// Workspaces, their applications, their stored windows in priority order.
 QJsonObject list(const LMCommandParts& parts);
 /// The live windows of the running applications as Rook sees them.

@@ -2,7 +2,6 @@
 #include "Controller/LMRestoreCommands.h"
 
 #include "Controller/LMFrontmostApplication.h"
-#include "Controller/LMPermissionCheck.h"
 #include "Controller/LMUserInterface.h"
 #include "Controller/LMWorkspaceList.h"
 #include "Model/LMApplication.h"
@@ -21,22 +20,23 @@ bool LMRestoreCommands::canRestoreActiveApplicationWindows() const {
 }
 
 LMCommandResult LMRestoreCommands::restoreWindows(bool displayChanged) {
-    if (!m_parts.permissionCheck.checkAccessibilityEnabled())
-        return LMCommandResult::refused(LMRefusal::permission(m_parts.permissionCheck));
-    LMCommandFrame frame(m_parts);
+    if (auto refusal = LMRefusal::beforeCommand(m_parts))
+        return *refusal;
+    const QString label = LMLocalized("Restoring Windows…");
+    LMCommandFrame frame(m_parts, label);
     LMWorkspace* workspace = m_parts.workspaceList.currentWorkspace();
     if (!workspace)
         return LMCommandResult::refused(LMRefusal::noCurrentWorkspace());
     {
-        LMProgressScope scope(m_parts.userInterface, LMLocalized("Restoring Windows…"), false);
+        LMProgressScope scope(m_parts.userInterface, label, false);
         workspace->restoreWindowsWithProgressWindowController(scope.progress(), displayChanged);
     }
     return frame.finish();
 }
 
 LMCommandResult LMRestoreCommands::restoreActiveApplicationWindows() {
-    if (!m_parts.permissionCheck.checkAccessibilityEnabled())
-        return LMCommandResult::refused(LMRefusal::permission(m_parts.permissionCheck));
+    if (auto refusal = LMRefusal::beforeCommand(m_parts))
+        return *refusal;
     if (!m_parts.frontmostApplication.updateFrontmostApplication())
         return LMCommandResult::refused(LMRefusal::noActiveApplication());
     const LMRunningApplication active = *m_parts.frontmostApplication.frontmostApplication();
@@ -44,8 +44,8 @@ LMCommandResult LMRestoreCommands::restoreActiveApplicationWindows() {
 }
 
 LMCommandResult LMRestoreCommands::restoreApplicationWindows(const QString& bundleIdentifier) {
-    if (!m_parts.permissionCheck.checkAccessibilityEnabled())
-        return LMCommandResult::refused(LMRefusal::permission(m_parts.permissionCheck));
+    if (auto refusal = LMRefusal::beforeCommand(m_parts))
+        return *refusal;
     const LMWorkspace* workspace = m_parts.workspaceList.currentWorkspace();
     const LMApplication* application =
         workspace ? workspace->applicationForBundleIdentifier(bundleIdentifier) : nullptr;
@@ -55,14 +55,14 @@ LMCommandResult LMRestoreCommands::restoreApplicationWindows(const QString& bund
 
 LMCommandResult LMRestoreCommands::restoreApplication(const QString& bundleIdentifier,
                                                       const QString& name) {
-    LMCommandFrame frame(m_parts);
+    const QString label = LMFormat(LMLocalized("Restoring Windows for %@…"), {name});
+    LMCommandFrame frame(m_parts, label);
     LMWorkspace* workspace = m_parts.workspaceList.currentWorkspace();
     if (!workspace)
         return LMCommandResult::refused(LMRefusal::noCurrentWorkspace());
     if (!workspace->storesApplication(bundleIdentifier))
         return LMCommandResult::refused(LMRefusal::notStored(name));
     {
-        const QString label = LMFormat(LMLocalized("Restoring Windows for %@…"), {name});
         LMProgressScope scope(m_parts.userInterface, label, true);
         workspace->restoreWindowsForApplication(bundleIdentifier);
     }

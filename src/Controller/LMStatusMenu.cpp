@@ -4,7 +4,6 @@
 #include "Controller/LMFrontmostApplication.h"
 #include "Controller/LMPermissionCheck.h"
 #include "Controller/LMUserCommands.h"
-#include "Controller/LMUserInterface.h"
 #include "Model/LMApplication.h"
 #include "Platform/LMDesktop.h"
 #include "Platform/LMEnvironment.h"
@@ -87,7 +86,7 @@ void LMStatusMenu::menuNeedsUpdate() {
         return;
     }
     showApplication(*m_parts.frontmostApplication.frontmostApplication());
-    if (m_parts.userInterface.isModalWindowOpen())
+    if (LMIsOccupied(m_parts))
         enableAll(false);
     else
         setEnabledStates();

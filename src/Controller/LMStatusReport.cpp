@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "Controller/LMReports.h"
 
+#include "Controller/LMActivityReport.h"
 #include "Controller/LMCommandFrame.h"
+#include "Controller/LMHotKeyCenter.h"
 #include "Controller/LMReportValues.h"
 #include "Controller/LMWorkspaceList.h"
 #include "Model/LMApplication.h"
 #include "Model/LMStoredWindow.h"
 #include "Model/LMStoredWindowsStore.h"
 #include "Model/LMWorkspace.h"
-#include "Model/Store/LMObjectContext.h"
 #include "Platform/LMDesktop.h"
 #include "Platform/LMEnvironment.h"
 #include "Utilities/LMFolders.h"
@@ -46,6 +47,22 @@ QJsonObject permission(LMDesktop& desktop) {
             {QStringLiteral("missing"), QJsonArray::fromStringList(permission.missing)}};
 }
 
+QJsonArray hotKeys(const LMHotKeyCenter& center) {
+    using State = LMHotKeyReport::State;
+    QJsonArray result;
+    for (const LMHotKeyReport& hotKey : center.hotKeys()) {
+        const char* state = hotKey.state == State::Registered ? "registered"
+                            : hotKey.state == State::Refused  ? "refused"
+                                                              : "empty";
+        const QString shortcut = hotKey.shortcut ? hotKey.shortcut->description() : QString();
+        result.append(QJsonObject{{QStringLiteral("key"), hotKey.key},
+                                  {QStringLiteral("shortcut"), LMReportValues::text(shortcut)},
+                                  {QStringLiteral("state"), QLatin1String(state)},
+                                  {QStringLiteral("reason"), hotKey.reason}});
+    }
+    return result;
+}
+
 QJsonObject counts(const LMCommandParts& parts) {
     qsizetype applications = 0;
     qsizetype windows = 0;
@@ -63,10 +80,10 @@ QJsonObject counts(const LMCommandParts& parts) {
 
 } // namespace
 
-QJsonObject LMReports::status(const LMCommandParts& parts) {
+QJsonObject LMReports::status(const LMCommandParts& parts, const LMHotKeyCenter& hotKeyCenter) {
     LMDesktop& desktop = parts.environment.desktop;
     const LMWorkspace* current = parts.workspaceList.currentWorkspace();
-    const QJsonObject report{
+    return {
         {QStringLiteral("version"), QCoreApplication::applicationVersion()},
         {QStringLiteral("process"), QCoreApplication::applicationPid()},
         {QStringLiteral("store"), parts.environment.folders.storedWindowsURL()},
@@ -76,7 +93,7 @@ QJsonObject LMReports::status(const LMCommandParts& parts) {
         {QStringLiteral("currentWorkspace"),
          current ? QJsonValue(current->name()) : QJsonValue(QJsonValue::Null)},
         {QStringLiteral("counts"), counts(parts)},
+        {QStringLiteral("hotKeys"), hotKeys(hotKeyCenter)},
+        {QStringLiteral("activity"), LMActivityReport(parts.environment.activity)},
     };
-    parts.store.managedObjectContext().discardTransientObjects();
-    return report;
 }

@@ -4,7 +4,6 @@
 #include "Categories/LMWorkspaceAdditions.h"
 #include "Controller/LMAlerts.h"
 #include "Controller/LMFrontmostApplication.h"
-#include "Controller/LMPermissionCheck.h"
 #include "Controller/LMUserInterface.h"
 #include "Controller/LMWorkspaceList.h"
 #include "Model/LMApplication.h"
@@ -12,7 +11,6 @@
 #include "Model/LMStoredWindowsStore.h"
 #include "Model/LMWindow.h"
 #include "Model/LMWorkspace.h"
-#include "Model/Store/LMObjectContext.h"
 #include "Platform/LMEnvironment.h"
 #include "Utilities/LMFormat.h"
 #include "Utilities/LMUserDefaultsKeys.h"
@@ -22,10 +20,8 @@ namespace Keys = LMUserDefaultsKeys;
 bool LMStoreCommands::canStoreActiveApplicationWindows() const {
     const auto& active = m_parts.frontmostApplication.frontmostApplication();
     LMObjectContext& context = m_parts.store.managedObjectContext();
-    const bool canStore =
-        active && LMApplication::applicationWithRunningApplication(context, *active);
-    context.discardTransientObjects();
-    return canStore;
+    const LMTransientScope transients(context);
+    return active && LMApplication::applicationWithRunningApplication(context, *active);
 }
 
 bool LMStoreCommands::canStoreActiveWindow() const {
@@ -36,9 +32,8 @@ bool LMStoreCommands::canStoreActiveWindow() const {
     if (LMApplication::blockedApplications(environment).contains(running->bundleIdentifier))
         return false;
     LMObjectContext& context = m_parts.store.managedObjectContext();
-    const bool hasFocusedWindow = LMWindow::focusedWindow(context) != nullptr;
-    context.discardTransientObjects();
-    return hasFocusedWindow && canStoreActiveApplicationWindows();
+    const LMTransientScope transients(context);
+    return LMWindow::focusedWindow(context) && canStoreActiveApplicationWindows();
 }
 
 std::optional<LMCommandResult> LMStoreCommands::askToReplace(const LMSuppressibleAlert& question,
@@ -60,12 +55,13 @@ void LMStoreCommands::reportSuccess(QLatin1String suppressionKey, const QString&
 
 LMCommandResult LMStoreCommands::storeActiveApplicationWindows(bool overwrite,
                                                                bool withConfirmation) {
-    if (!m_parts.permissionCheck.checkAccessibilityEnabled())
-        return LMCommandResult::refused(LMRefusal::permission(m_parts.permissionCheck));
-    LMCommandFrame frame(m_parts);
-    if (!m_parts.frontmostApplication.frontmostApplication())
+    if (auto refusal = LMRefusal::beforeCommand(m_parts))
+        return *refusal;
+    if (!m_parts.frontmostApplication.updateFrontmostApplication())
         return LMCommandResult::refused(LMRefusal::noActiveApplication());
     const LMRunningApplication active = *m_parts.frontmostApplication.frontmostApplication();
+    const QString label = LMFormat(LMLocalized("Storing Windows for %@…"), {active.localizedName});
+    LMCommandFrame frame(m_parts, label);
     const LMWorkspace* present = m_parts.workspaceList.currentWorkspaceAddingIfNecessary();
     if (!present)
         return LMCommandResult::refused(LMRefusal::noCurrentWorkspace());
@@ -86,8 +82,6 @@ LMCommandResult LMStoreCommands::storeActiveApplicationWindows(bool overwrite,
     if (!workspace)
         return LMCommandResult::refused(LMRefusal::noCurrentWorkspace());
     {
-        const QString label =
-            LMFormat(LMLocalized("Storing Windows for %@…"), {active.localizedName});
         LMProgressScope scope(m_parts.userInterface, label, true);
         workspace->storeWindowsForApplication(active.bundleIdentifier);
         m_parts.store.saveWindows();
@@ -111,9 +105,10 @@ LMApplication* LMStoreCommands::addApplication(LMWorkspace& workspace,
 }
 
 LMCommandResult LMStoreCommands::storeActiveWindow(bool overwrite, bool withConfirmation) {
-    if (!m_parts.permissionCheck.checkAccessibilityEnabled())
-        return LMCommandResult::refused(LMRefusal::permission(m_parts.permissionCheck));
-    LMCommandFrame frame(m_parts);
+    if (auto refusal = LMRefusal::beforeCommand(m_parts))
+        return *refusal;
+    LMCommandFrame frame(m_parts, LMLocalized("Storing the Active Window…"));
+    m_parts.frontmostApplication.updateFrontmostApplication();
     const auto active = m_parts.frontmostApplication.frontmostApplication();
     FocusedWindow focused = findFocusedWindow(active);
     if (!focused.window)
@@ -163,9 +158,10 @@ LMStoreCommands::findFocusedWindow(const std::optional<LMRunningApplication>& ac
 }
 
 LMCommandResult LMStoreCommands::storeAllWindows(bool overwrite, bool withConfirmation) {
-    if (!m_parts.permissionCheck.checkAccessibilityEnabled())
-        return LMCommandResult::refused(LMRefusal::permission(m_parts.permissionCheck));
-    LMCommandFrame frame(m_parts);
+    if (auto refusal = LMRefusal::beforeCommand(m_parts))
+        return *refusal;
+    const QString label = LMLocalized("Storing Windows for All Applications…");
+    LMCommandFrame frame(m_parts, label);
     const LMWorkspace* present = m_parts.workspaceList.currentWorkspaceAddingIfNecessary();
     if (!present)
         return LMCommandResult::refused(LMRefusal::noCurrentWorkspace());
@@ -182,8 +178,7 @@ LMCommandResult LMStoreCommands::storeAllWindows(bool overwrite, bool withConfir
     if (!workspace)
         return LMCommandResult::refused(LMRefusal::noCurrentWorkspace());
     {
-        LMProgressScope scope(m_parts.userInterface,
-                              LMLocalized("Storing Windows for All Applications…"), false);
+        LMProgressScope scope(m_parts.userInterface, label, false);
         workspace->storeWindowsWithProgressWindowController(scope.progress());
         m_parts.store.saveWindows();
     }

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "Controller/LMUserCommands.h"
 
+#include "Controller/LMFrontmostApplication.h"
 #include "Controller/LMRestoreCommands.h"
 #include "Controller/LMStoreCommands.h"
 #include "Controller/LMWindowCommands.h"
 #include "Platform/LMEnvironment.h"
+#include "Utilities/LMLogger.h"
 #include "Utilities/LMNotificationCenter.h"
 
 using Command = LMMenuCommand;
@@ -34,6 +36,21 @@ bool LMUserCommands::isAvailable(LMMenuCommand command) const {
 }
 
 LMCommandResult LMUserCommands::perform(LMMenuCommand command) {
+    LMCommandResult result = dispatch(command);
+    if (!result.refusal.isEmpty())
+        m_parts.environment.logger.info(QStringLiteral("%@"), {result.refusal});
+    return result;
+}
+
+void LMUserCommands::performIfAvailable(LMMenuCommand command) {
+    if (LMIsOccupied(m_parts))
+        return;
+    m_parts.frontmostApplication.updateFrontmostApplication();
+    if (isAvailable(command))
+        perform(command);
+}
+
+LMCommandResult LMUserCommands::dispatch(LMMenuCommand command) {
     switch (command) {
     case Command::RestoreAllWindows:
         return m_restoreCommands.restoreWindows(false);

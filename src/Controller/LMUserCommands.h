@@ -21,12 +21,18 @@ public:
 
     /// Whether the command could do something now. True for those that always can.
     bool isAvailable(LMMenuCommand command) const;
+    /// What is refused is logged, for the user who wonders.
     LMCommandResult perform(LMMenuCommand command);
+    /// The command's hot key was pressed: settles which application is the active one, then
+    /// performs the command if it is available.
+    void performIfAvailable(LMMenuCommand command);
 
 Q_SIGNALS:
     void quitRequested();
 
 private:
+    LMCommandResult dispatch(LMMenuCommand command);
+
     const LMCommandParts& m_parts;
     LMRestoreCommands& m_restoreCommands;
     LMStoreCommands& m_storeCommands;

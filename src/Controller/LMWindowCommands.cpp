@@ -2,7 +2,6 @@
 #include "Controller/LMWindowCommands.h"
 
 #include "Controller/LMFrontmostApplication.h"
-#include "Controller/LMPermissionCheck.h"
 #include "Controller/LMStoreCommands.h"
 #include "Controller/LMUserInterface.h"
 #include "Controller/LMWorkspaceList.h"
@@ -22,8 +21,8 @@ LMCommandResult LMWindowCommands::linkActiveWindow() {
     LMUserInterface& userInterface = m_parts.userInterface;
     if (!userInterface.canShowWindows())
         return LMCommandResult::refused(LMRefusal::noWindows());
-    if (!m_parts.permissionCheck.checkAccessibilityEnabled())
-        return LMCommandResult::refused(LMRefusal::permission(m_parts.permissionCheck));
+    if (auto refusal = LMRefusal::beforeCommand(m_parts))
+        return *refusal;
     LMWorkspace* workspace = m_parts.workspaceList.currentWorkspaceAddingIfNecessary();
     if (!workspace)
         return LMCommandResult::refused(LMRefusal::noCurrentWorkspace());
@@ -37,7 +36,8 @@ LMCommandResult LMWindowCommands::linkActiveWindow() {
 }
 
 LMCommandResult LMWindowCommands::showStoredWindowsEditor() {
-    m_parts.userInterface.reloadTableViews();
+    if (!LMIsOccupied(m_parts))
+        m_parts.userInterface.reloadTableViews();
     return show(&LMUserInterface::showStoredWindowsList);
 }
 
@@ -52,6 +52,8 @@ LMCommandResult LMWindowCommands::showAboutPanel() {
 LMCommandResult LMWindowCommands::show(void (LMUserInterface::*window)()) {
     if (!m_parts.userInterface.canShowWindows())
         return LMCommandResult::refused(LMRefusal::noWindows());
+    if (auto refusal = LMRefusal::whileOccupied(m_parts))
+        return *refusal;
     (m_parts.userInterface.*window)();
     return LMCommandResult::done();
 }

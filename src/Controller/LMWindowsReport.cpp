@@ -7,7 +7,6 @@
 #include "Model/LMStoredWindow.h"
 #include "Model/LMStoredWindowsStore.h"
 #include "Model/LMWindow.h"
-#include "Model/Store/LMObjectContext.h"
 
 namespace {
 
@@ -26,6 +25,7 @@ QJsonObject liveWindow(const LMWindow& window) {
 
 QJsonObject LMReports::windows(const LMCommandParts& parts) {
     LMObjectContext& context = parts.store.managedObjectContext();
+    const LMTransientScope transients(context);
     QJsonArray applications;
     for (LMApplication* application : LMApplication::currentApplications(context)) {
         QJsonArray windows;
@@ -37,6 +37,5 @@ QJsonObject LMReports::windows(const LMCommandParts& parts) {
                         {QStringLiteral("process"), application->processIdentifier()},
                         {QStringLiteral("windows"), windows}});
     }
-    context.discardTransientObjects();
     return {{QStringLiteral("applications"), applications}};
 }

@@ -55,7 +55,10 @@ XFWM4 = """\
   <property name="use_compositing" type="bool" value="true"/>
 </property></channel>
 """
+# Rook runs from its build folder; nobody is there to answer whether it shall be added to the menu.
+ROOK = "[General]\nmoveToApplicationsFolderAlertSuppress=true\n"
 SETTINGS = {
+    "Rook/settings.ini": ROOK,
     "glib-2.0/settings/keyfile": KEYFILE,
     "kwinrc": KWINRC,
     "xfce4/xfconf/xfce-perchannel-xml/xfwm4.xml": XFWM4,

@@ -6,15 +6,24 @@
 #include "Model/LMStoredWindowsStore.h"
 #include "unit/DesktopTest.h"
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
+
+#include <functional>
+
 /// Answers questions as told and writes down what it was asked and shown.
 class ScriptedUserInterface final : public LMUserInterface, public LMProgressWindow {
 public:
     LMProgressWindow& progressWindow() override { return *this; }
     LMAlertAnswer runModal(const LMAlert& alert) override {
         alerts.append(alert.message + u'|' + alert.informativeText);
+        isModal = true;
+        if (duringModal)
+            duringModal();
+        isModal = false;
         return answer;
     }
-    bool canShowWindows() const override { return true; }
+    bool canShowWindows() const override { return showsWindows; }
     bool isModalWindowOpen() const override { return isModal; }
     void activateIgnoringOtherApplications() override {}
     void showStatusItem(LMStatusMenu&) override { calls.append(u"icon"_s); }
@@ -34,7 +43,8 @@ public:
     void increment(const LMWorkspace*) override {}
 
     LMAlertAnswer answer{LMAlertAnswer::FirstButton + 1, false}; ///< To every alert.
-    bool isModal = false;
+    bool isModal = false, showsWindows = true;
+    std::function<void()> duringModal; ///< What arrives through the alert's event loop.
     QStringList alerts, calls, labels;
     int shown = 0;
     double maxValue = 0;
@@ -52,6 +62,14 @@ protected:
         desktop.focus(draft);
     }
 
+    /// Runs the event loop until the condition holds; false after a deadline.
+    static bool wait(const std::function<bool()>& condition) {
+        QElapsedTimer timer;
+        for (timer.start(); !condition() && !timer.hasExpired(10'000);)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+        return condition();
+    }
+
     LMCommandResult perform(const char* code, const QVariantMap& arguments = {}) {
         const char name[5] = {code[0], code[1], code[2], code[3], 0};
         const auto answer = delegate.scriptingSupport().performDefaultImplementation(
@@ -59,6 +77,10 @@ protected:
         return answer.value_or(LMCommandResult::refused(u"unknown"_s));
     }
 
+    int argumentCount = 1;
+    char programName[5] = "test";
+    char* argumentValues[2] = {programName, nullptr};
+    QCoreApplication coreApplication{argumentCount, argumentValues}; ///< For timers.
     ScriptedUserInterface userInterface;
     LMStoredWindowsStore store{environment};
     LMApplicationDelegate delegate{environment, store, userInterface};

@@ -42,7 +42,7 @@ TEST_F(ControllerTest, PlanTellsWhatARestoreWouldDoAndChangesNothing) {
 
 TEST_F(ControllerTest, ReportsCountWhatIsThere) {
     perform("SAll");
-    const QJsonObject status = LMReports::status(delegate.commandParts());
+    const QJsonObject status = LMReports::status(delegate.commandParts(), delegate.hotKeyCenter());
     EXPECT_EQ(status[u"counts"][u"storedWindows"].toInt(), 3);
     EXPECT_EQ(status[u"currentWorkspace"].toString(), u"1 Display"_s);
     EXPECT_TRUE(status[u"permission"][u"trusted"].toBool());

@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: MIT
+#include "unit/Controller/ControllerTest.h"
+
+#include "Controller/LMCrashReporter.h"
+#include "Controller/LMLauncherPrompt.h"
+#include "Model/LMWorkspace.h"
+#include "Model/Store/LMObjectContext.h"
+#include "Platform/LMDesktopEntry.h"
+#include "Platform/LMShortcut.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <csignal>
+
+namespace {
+
+class LifecycleTest : public ControllerTest {
+protected:
+    LifecycleTest() {
+        ::qputenv("XDG_DATA_HOME", QFile::encodeName(test.path(u"data"_s)));
+        ::qputenv("XDG_DATA_DIRS", "/nonexistent");
+        defaults.setObject(Keys::moveToApplicationsFolderAlertSuppress, true);
+    }
+    ~LifecycleTest() override {
+        ::qunsetenv("XDG_DATA_HOME");
+        ::qunsetenv("XDG_DATA_DIRS");
+    }
+    static QByteArray read(const QString& path) {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    const QString picture = test.path(u"Rook/Screenshots/a.png"_s);
+    void writePicture() {
+        QDir().mkpath(test.path(u"Rook/Screenshots"_s));
+        QFile file(picture);
+        file.open(QIODevice::WriteOnly);
+    }
+};
+
+TEST_F(LifecycleTest, ServesFromLaunchToTermination) {
+    ASSERT_TRUE(delegate.finishLaunching());
+    EXPECT_EQ(userInterface.calls, (QStringList{u"no icon"_s, u"icon"_s}));
+    EXPECT_TRUE(userInterface.alerts.isEmpty());
+    EXPECT_TRUE(defaults.boolForKey(Keys::RestoreWindowsAutomatically)) << "registered";
+
+    const auto shortcut = LMShortcut::shortcutWithKeyCode(15, LMModifier::Command);
+    defaults.setObject(Keys::StoreAllWindowsHotKey, shortcut->data());
+    desktop.hotKeys().press(*shortcut);
+    EXPECT_EQ(userInterface.alerts.size(), 1) << "stored, and said so";
+
+    userInterface.calls.clear();
+    defaults.setObject(Keys::DisableStatusBarItem, true);
+    test.notificationCenter.postNotification(LMNotification::StatusItemVisibilityChanged);
+    EXPECT_TRUE(delegate.dbusService().ShowMenu());
+    delegate.dbusService().Activate();
+    EXPECT_EQ(userInterface.calls, (QStringList{u"no icon"_s, u"menu"_s, u"reload"_s, u"list"_s}));
+
+    store.managedObjectContext().insertObject<LMWorkspace>();
+    writePicture();
+    delegate.applicationWillTerminate();
+    EXPECT_FALSE(QFile::exists(picture)) << "cleaned";
+    EXPECT_EQ(store.managedObjectContext().objects<LMWorkspace>().size(), 1U);
+    EXPECT_FALSE(store.managedObjectContext().hasChanges()) << "saved";
+}
+
+TEST_F(LifecycleTest, AStoreThatCannotBeHadEndsTheLaunchAndIsLeftAlone) {
+    writePicture();
+    QFile file(test.path(u"Rook/Stored Windows.sqlite"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("not a store") > 0);
+    file.close();
+    EXPECT_FALSE(delegate.finishLaunching());
+    EXPECT_EQ(userInterface.alerts,
+              QStringList{u"Unable to load stored windows.|There may be a problem with your Stored "
+                          u"Windows.sqlite file. Please remove the current file and re-launch "
+                          u"Rook."_s});
+    EXPECT_TRUE(delegate.launchFailure().contains(u"Unable to load"));
+    delegate.applicationWillTerminate();
+    EXPECT_EQ(userInterface.calls.last(), u"no icon"_s);
+    EXPECT_TRUE(QFile::exists(picture));
+}
+
+TEST_F(LifecycleTest, AnOlderProgramRefusesNewerStoredWindows) {
+    defaults.setObject(Keys::RookVersion, u"999.0"_s);
+    EXPECT_FALSE(delegate.finishLaunching());
+    EXPECT_TRUE(userInterface.alerts.value(0).startsWith(u"Stored Windows Version Mismatch.|"));
+    EXPECT_EQ(defaults.stringForKey(Keys::RookVersion), u"999.0"_s);
+}
+
+TEST_F(LifecycleTest, OffersALauncherOnceAndQuitsMeanwhile) {
+    defaults.removeObject(Keys::moveToApplicationsFolderAlertSuppress);
+    userInterface.answer.buttonCode = LMAlertAnswer::FirstButton;
+    userInterface.duringModal = [this] { delegate.quit(); };
+    EXPECT_FALSE(delegate.finishLaunching()) << "the event loop must not begin any more";
+    EXPECT_EQ(userInterface.alerts.size(), 1);
+    EXPECT_TRUE(defaults.boolForKey(Keys::moveToApplicationsFolderAlertSuppress));
+    const QString entry = test.path(u"data/applications/org.rook.Rook.desktop"_s);
+    const QString executable = QCoreApplication::applicationFilePath();
+    EXPECT_TRUE(read(entry).contains("\nExec=\"" + executable.toUtf8() + "\"\n"));
+    EXPECT_TRUE(LMHasLauncher(executable));
+    EXPECT_EQ(LMExecOfArgument(uR"(/my $dir"/100%/r\k)"_s), uR"("/my \\$dir\\"/100%%/r\\\\k")"_s);
+
+    defaults.removeObject(Keys::moveToApplicationsFolderAlertSuppress);
+    LMOfferLauncher(environment, userInterface);
+    QFile::remove(entry);
+    userInterface.showsWindows = false;
+    LMOfferLauncher(environment, userInterface);
+    EXPECT_EQ(userInterface.alerts.size(), 1) << "neither where there is one, nor without windows";
+}
+
+TEST_F(LifecycleTest, WithoutWindowsWhatIsMeantToBeSeenIsRefused) {
+    userInterface.showsWindows = false;
+    LMDBusService& service = delegate.dbusService();
+    bool (LMDBusService::*const methods[])() = {
+        &LMDBusService::ShowMenu,          &LMDBusService::LinkActiveWindow,
+        &LMDBusService::ShowStoredWindows, &LMDBusService::ShowPreferences,
+        &LMDBusService::ShowAbout,         &LMDBusService::CheckForUpdates};
+    for (const auto method : methods) {
+        EXPECT_FALSE((service.*method)());
+        EXPECT_EQ(service.lastRefusal(), u"This Rook was started without windows."_s);
+    }
+}
+
+int overflow(int depth) {
+    volatile char frame[4096] = {char(depth)};
+    return depth < 0 ? frame[0] : overflow(depth + 1) + frame[0];
+}
+
+TEST_F(LifecycleTest, CrashesLeaveAReport) {
+    QDir directory(test.path(u"Logs"_s));
+    directory.mkpath(u"."_s);
+    for (int i = 0; i < 20; ++i)
+        QFile(directory.filePath(u"Crash %1.txt"_s.arg(i))).open(QIODevice::WriteOnly);
+    if (!LMCrashReporter::install(directory.path(), u"1.0"_s))
+        GTEST_SKIP() << "a sanitizer watches";
+    const struct {
+        int signal;
+        std::function<void()> crash;
+    } rows[] = {{SIGABRT, [] { std::abort(); }},
+                {SIGFPE, [] { ::raise(SIGFPE); }},
+                {SIGSEGV, [] { overflow(1); }}};
+    for (const auto& row : rows) {
+        EXPECT_EXIT(
+            {
+                const auto reporter = LMCrashReporter::install(directory.path(), u"1.0"_s);
+                row.crash();
+            },
+            testing::KilledBySignal(row.signal), "");
+        const QStringList names = directory.entryList({u"Crash 2*.txt"_s}, QDir::Files, QDir::Time);
+        const QByteArray report = read(directory.filePath(names.value(0)));
+        EXPECT_TRUE(report.contains("Signal 0x" + QByteArray::number(row.signal, 16) + '\n'));
+        EXPECT_GT(report.count("\nFrame 0x"), 3);
+        EXPECT_TRUE(report.startsWith("Rook 1.0, process "));
+    }
+    EXPECT_EQ(directory.entryList(QDir::Files).size(), 10) << "only the latest are kept";
+}
+
+} // namespace

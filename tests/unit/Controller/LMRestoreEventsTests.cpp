@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "unit/Controller/ControllerTest.h"
+
+#include "Model/LMAction.h"
+#include "Model/LMWorkspace.h"
+#include "Model/Store/LMObjectContext.h"
+
+#include <cmath>
+#include <limits>
+
+namespace {
+
+/// Windows are stored for one display and for two; each restore pauses for one second.
+class RestoreEventsTest : public ControllerTest {
+protected:
+    RestoreEventsTest() {
+        defaults.setObject(Keys::RestoreWindowsAsApplicationsLaunch, true);
+        defaults.setObject(Keys::RestoreWindowsAutomatically, true);
+        perform("SAll");
+        restoreEvents.recordDisplayConfiguration();
+        restoreEvents.registerForNotifications();
+        moveAway();
+    }
+    void moveAway() {
+        desktop.window(draft).frame = {500, 400, 300, 200};
+        desktop.log().clear();
+        userInterface.calls.clear();
+    }
+    bool isBack() { return desktop.window(draft).frame == QRectF(10, 20, 300, 200); }
+    qsizetype pauses() { return desktop.log().events(u"sleep"_s).size(); }
+    void changeDisplays(const QList<QRectF>& bounds) {
+        desktop.setScreens(bounds);
+        desktop.announceScreenChange();
+    }
+    LMWorkspace* workspace() { return delegate.commandParts().workspaceList.currentWorkspace(); }
+    static void runLoop() { QCoreApplication::processEvents(); }
+
+    LMRestoreEvents& restoreEvents = delegate.restoreEvents();
+    const QRectF main{0, 0, 1440, 900}, right{1440, 0, 1920, 1080};
+};
+
+TEST_F(RestoreEventsTest, AnApplicationThatLaunchesIsRestoredOnce) {
+    restoreEvents.userLaunchedApplication(u"org.editor"_s);
+    EXPECT_EQ(pauses(), 0) << "not before the delay";
+    EXPECT_TRUE(wait([this] { return isBack(); }));
+    EXPECT_EQ(pauses(), 1);
+
+    moveAway();
+    restoreEvents.userLaunchedApplication(u"org.none"_s);
+    defaults.setObject(Keys::RestoreWindowsAsApplicationsLaunch, false);
+    restoreEvents.userLaunchedApplication(u"org.editor"_s);
+    runLoop();
+    EXPECT_FALSE(isBack());
+}
+
+TEST_F(RestoreEventsTest, AWorkspaceThatIsGoneWhenTheTimeComesRestoresNothing) {
+    restoreEvents.userLaunchedApplication(u"org.editor"_s);
+    store.managedObjectContext().deleteObject(workspace());
+    store.saveWindows();
+    restoreEvents.userLaunchedApplication(u"org.editor"_s); // Without a workspace.
+    runLoop();
+    EXPECT_FALSE(isBack());
+}
+
+TEST_F(RestoreEventsTest, DelaysThatMakeNoSenseBecomeSome) {
+    using namespace std::chrono_literals;
+    const struct {
+        double seconds;
+        std::chrono::milliseconds delay;
+    } rows[] = {{2.5, 2500ms},  {0, 0ms},
+                {-1, 0ms},      {std::nan(""), 0ms},
+                {1e300, 3600s}, {std::numeric_limits<double>::infinity(), 3600s}};
+    for (const auto& row : rows)
+        EXPECT_EQ(LMRestoreEvents::launchRestoreDelay(row.seconds), row.delay) << row.seconds;
+}
+
+TEST_F(RestoreEventsTest, ChangedDisplaysAreRestoredOncePerChange) {
+    changeDisplays({main});
+    EXPECT_TRUE(userInterface.calls.isEmpty()) << "the same displays";
+    changeDisplays({main, right});
+    EXPECT_EQ(userInterface.calls, (QStringList{u"no picker"_s, u"reload"_s}));
+    EXPECT_FALSE(isBack()) << "nothing is stored for two displays";
+
+    auto* action = store.managedObjectContext().insertObject<LMAction>();
+    desktop.setScreens({main});
+    workspace()->addActionsObject(action);
+    action->setRunAs(u"Shell Script"_s);
+    action->setRunOnDisplayChange(true);
+    action->setScript(u"#!/bin/sh\necho"_s);
+    action->setLabel(u"Beep"_s);
+    desktop.announceScreenChange();
+    EXPECT_TRUE(isBack());
+    EXPECT_TRUE(test.hasLogged(u"Running the action “Beep” of “1 Display”"_s));
+    EXPECT_EQ(environment.activity.recent().at(1).label,
+              u"Running the action “Beep” of “1 Display”…"_s);
+}
+
+TEST_F(RestoreEventsTest, ChangesWhileRestoringIsOffAreNotMadeUpFor) {
+    defaults.setObject(Keys::RestoreWindowsAutomatically, false);
+    changeDisplays({main, right});
+    changeDisplays({main});
+    defaults.setObject(Keys::RestoreWindowsAutomatically, true);
+    desktop.announceScreenChange();
+    EXPECT_FALSE(isBack());
+    EXPECT_EQ(restoreEvents.previousDisplayConfiguration(),
+              QStringList{u"{{0, 0}, {1440, 900}}"_s});
+}
+
+TEST_F(RestoreEventsTest, WhatArrivesDuringAnAlertWaitsOrIsRefused) {
+    userInterface.duringModal = [this] {
+        for (const char* code : {"RAll", "RApp", "SApp", "SWin", "SAll"}) {
+            EXPECT_TRUE(perform(code).refusal.contains(u"Rook is asking")) << code;
+        }
+        LMDBusService& service = delegate.dbusService();
+        EXPECT_FALSE(service.LinkActiveWindow() || service.ShowAbout() ||
+                     service.ShowStoredWindows());
+        EXPECT_TRUE(service.Status().contains(u"Storing Windows for All Applications…"));
+        delegate.userCommands().performIfAvailable(LMMenuCommand::RestoreAllWindows);
+        desktop.setScreens({main, right}); // There and back again.
+        desktop.announceScreenChange();
+        changeDisplays({main});
+        restoreEvents.userLaunchedApplication(u"org.editor"_s);
+        restoreEvents.userLaunchedApplication(u"org.editor"_s);
+        runLoop();
+        EXPECT_TRUE(desktop.log().events().isEmpty());
+        EXPECT_TRUE(userInterface.calls.isEmpty());
+    };
+    EXPECT_FALSE(delegate.userCommands().perform(LMMenuCommand::StoreAllWindows).isDone);
+    EXPECT_TRUE(wait([this] { return isBack(); }));
+    runLoop();
+    EXPECT_EQ(pauses(), 1) << "one launch is one restore";
+}
+
+} // namespace

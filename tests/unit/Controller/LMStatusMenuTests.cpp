@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "unit/Controller/ControllerTest.h"
+
+#include "Model/LMApplication.h"
+#include "Model/LMWindow.h"
+#include "Model/Store/LMObjectContext.h"
+
+namespace {
+
+class StatusMenuTest : public ControllerTest {
+protected:
+    /// Tags of the enabled items after the menu was told to update.
+    QString enabled() {
+        menu.menuNeedsUpdate();
+        QStringList tags;
+        for (const LMMenuItem& item : menu.items())
+            if (item.tag != 0 && item.isEnabled)
+                tags.append(QString::number(item.tag));
+        return tags.join(u' ');
+    }
+    QString title(int tag) const { return item(tag).title; }
+    const LMMenuItem& item(int tag) const {
+        return *std::find_if(menu.items().begin(), menu.items().end(),
+                             [tag](const LMMenuItem& one) { return one.tag == tag; });
+    }
+
+    LMStatusMenu& menu = delegate.statusItemMenu();
+};
+
+TEST_F(StatusMenuTest, EnablesWhatCanBeDoneNow) {
+    EXPECT_EQ(enabled(), u"4 5 7 9 10 11"_s) << "nothing is stored yet";
+    EXPECT_EQ(title(2) + u'|' + title(3) + u'|' + title(4),
+              u"Restore Windows for Editor|Editor|Store All Windows for Editor"_s);
+    EXPECT_EQ(item(3).representedObject, u"org.editor"_s);
+    ASSERT_TRUE(perform("SApp").isDone);
+    EXPECT_EQ(enabled(), u"4 2 5 6 1 7 9 10 11"_s);
+    desktop.focus(LMElement());
+    EXPECT_EQ(enabled(), u"4 2 1 7 9 10 11"_s) << "no window has the focus";
+    userInterface.isModal = true;
+    EXPECT_EQ(enabled(), QString());
+    userInterface.isModal = false;
+    desktop.world().permission = {false, {u"No window manager."_s}};
+    EXPECT_EQ(enabled(), u"9 10 11"_s);
+}
+
+TEST_F(StatusMenuTest, NamesApplicationsThatAreNotHandled) {
+    defaults.setObject(u"ExcludedApplications"_s, QStringList{u"org.editor"_s});
+    EXPECT_EQ(enabled(), u"7 9 10 11"_s);
+    EXPECT_EQ(title(3), u"Editor (Incompatible)"_s);
+}
+
+TEST_F(StatusMenuTest, ShowsTheFileManagerWhereNoApplicationWasEverActive) {
+    desktop.removeApplication(u"org.editor"_s);
+    desktop.removeApplication(u"org.browser"_s);
+    EXPECT_EQ(enabled(), u"1 9 10 11"_s);
+    EXPECT_EQ(title(2) + u'|' + title(3) + u'|' + title(4),
+              u"Store All Windows for Finder|Finder|Store All Windows for Finder"_s);
+}
+
+TEST_F(StatusMenuTest, UpdatingLetsOtherLiveRecordsLive) {
+    const LMWindow* held = LMWindow::focusedWindow(store.managedObjectContext());
+    const auto count = [this] { return store.managedObjectContext().objects<LMWindow>().size(); };
+    const std::size_t before = count();
+    enabled();
+    EXPECT_EQ(count(), before);
+    EXPECT_EQ(held->title(), u"Draft"_s);
+}
+
+TEST_F(StatusMenuTest, EntriesDoWhatTheySay) {
+    enabled();
+    menu.perform(LMMenuCommand::RestoreAllWindows);
+    EXPECT_TRUE(desktop.log().events().isEmpty()) << "it is disabled";
+    menu.perform(LMMenuCommand::StoreAllWindows);
+    EXPECT_EQ(userInterface.alerts.size(), 1) << "success is reported";
+    enabled();
+    bool quits = false;
+    QObject::connect(&delegate, &LMApplicationDelegate::quitRequested, [&] { quits = true; });
+    userInterface.calls.clear();
+    for (const auto command :
+         {LMMenuCommand::LinkActiveWindow, LMMenuCommand::ShowStoredWindowsEditor,
+          LMMenuCommand::ShowPreferencesWindow, LMMenuCommand::ShowAboutPanel, LMMenuCommand::Quit})
+        menu.perform(command);
+    EXPECT_EQ(userInterface.calls,
+              (QStringList{u"picker"_s, u"reload"_s, u"list"_s, u"preferences"_s, u"about"_s}));
+    EXPECT_TRUE(quits);
+    desktop.focus(LMElement());
+    EXPECT_FALSE(delegate.userCommands().perform(LMMenuCommand::LinkActiveWindow).isDone);
+    EXPECT_EQ(userInterface.calls.last(), u"no picker"_s);
+}
+
+} // namespace
