@@ -2,6 +2,7 @@
 #include "CommandLine/LMClient.h"
 
 #include "CommandLine/LMTables.h"
+#include "Utilities/LMBaseDirectories.h"
 #include "Utilities/LMFormat.h"
 
 #include <QDBusConnectionInterface>
@@ -11,6 +12,8 @@
 #include <QDBusVariant>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QFile>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTimer>
@@ -27,6 +30,7 @@ constexpr QLatin1String Interface{"org.rook.Rook1"};
 constexpr std::chrono::seconds QuitDeadline{30};
 constexpr std::chrono::milliseconds StartDeadline{10000};
 constexpr std::chrono::milliseconds StartPollInterval{20};
+constexpr int NoticeableDelay = 2000; // Milliseconds.
 /// Restoring takes as long as it takes: scripts may run before it.
 constexpr int NoTimeout = std::numeric_limits<int>::max();
 
@@ -112,7 +116,9 @@ QDBusMessage LMClient::call(const LMInvocation& invocation) const {
     QElapsedTimer sinceStart;
     sinceStart.start();
     while (true) {
-        const QDBusMessage reply = m_bus.call(message, QDBus::Block, NoTimeout);
+        const QDBusMessage reply = invocation.method == QLatin1String("Status")
+                                       ? callNotingDelay(message)
+                                       : m_bus.call(message, QDBus::Block, NoTimeout);
         // Rook has its name before it has opened its store: it will serve in a moment.
         const bool isStarting =
             reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.UnknownObject");
@@ -120,6 +126,26 @@ QDBusMessage LMClient::call(const LMInvocation& invocation) const {
             return reply;
         std::this_thread::sleep_for(StartPollInterval);
     }
+}
+
+// A process that is held by a script cannot answer, but it has left a note.
+QDBusMessage LMClient::callNotingDelay(const QDBusMessage& message) const {
+    const QDBusMessage reply = m_bus.call(message, QDBus::Block, NoticeableDelay);
+    if (reply.errorName() != QLatin1String("org.freedesktop.DBus.Error.NoReply"))
+        return reply;
+    print(m_errors, LMFormat(LMLocalized("rook: Rook is busy and answers later. %@"),
+                             {LMTables::printable(activity())}));
+    return m_bus.call(message, QDBus::Block, NoTimeout);
+}
+
+QString LMClient::activity() const {
+    const QDBusReply<uint> process = m_bus.interface()->servicePid(Service);
+    QFile file(LMActivityFilePath(process.value()));
+    if (!process.isValid() || !file.open(QIODevice::ReadOnly))
+        return {};
+    const QJsonArray current =
+        QJsonDocument::fromJson(file.readAll())[QLatin1String("current")].toArray();
+    return LMTables::activity(current.last().toObject());
 }
 
 QString LMClient::lastRefusal() const {

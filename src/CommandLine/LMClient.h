@@ -24,6 +24,8 @@ private:
 
     bool isResidentRunning() const;
     QDBusMessage call(const LMInvocation& invocation) const;
+    QDBusMessage callNotingDelay(const QDBusMessage& message) const;
+    QString activity() const;
     QString lastRefusal() const;
     int notRunning() const;
     int failed(const QString& why) const;

@@ -74,6 +74,13 @@ void addCommands(CLI::App& app, LMInvocation& invocation, Options& options) {
                     "Remember the windows of the active application", "StoreActiveApplication");
     addStoreCommand(app, invocation, options, "store-window", "Remember the active window",
                     "StoreActiveWindow");
+    addCommand(app, invocation, "link-window", "Link the active window to a stored window",
+               "LinkActiveWindow");
+    addCommand(app, invocation, "menu", "Open the status menu at the pointer", "ShowMenu");
+    addCommand(app, invocation, "show", "Show the list of stored windows", "ShowStoredWindows");
+    addCommand(app, invocation, "preferences", "Show the preferences", "ShowPreferences");
+    addCommand(app, invocation, "about", "Show version and credits", "ShowAbout");
+    addCommand(app, invocation, "check-for-updates", "Look for a newer version", "CheckForUpdates");
     app.add_subcommand("quit", "End the resident process")->callback([&invocation] {
         invocation.kind = Kind::Quit;
         invocation.method = QStringLiteral("Quit");

@@ -3,6 +3,7 @@
 
 #include "Utilities/LMFormat.h"
 
+#include <QDateTime>
 #include <QJsonArray>
 #include <QTextBoundaryFinder>
 
@@ -49,6 +50,13 @@ QString displaysTable(const QJsonArray& displays) {
     return LMTables::table(rows);
 }
 
+QString hotKeyText(const QJsonValue& hotKey) {
+    const QString text =
+        LMFormat(QStringLiteral("%@ %@"), {cell(hotKey[u"key"]), cell(hotKey[u"shortcut"])});
+    const QString reason = hotKey[u"reason"].toString();
+    return reason.isEmpty() ? text : text + QStringLiteral(": ") + LMTables::printable(reason);
+}
+
 QString statusText(const QJsonObject& report) {
     const QJsonObject backend = report[u"backend"].toObject();
     const QJsonObject counts = report[u"counts"].toObject();
@@ -76,6 +84,14 @@ QString statusText(const QJsonObject& report) {
         LMFormat(LMLocalized("%@ workspaces, %@ applications, %@ windows"),
                  {number(counts[u"workspaces"]), number(counts[u"applications"]),
                   number(counts[u"storedWindows"])}));
+    for (const QJsonValue& hotKey : report[u"hotKeys"].toArray())
+        if (hotKey[u"state"].toString() != u"empty")
+            add(LMLocalized("Hot key"), hotKeyText(hotKey));
+    for (const QJsonValue& entry : report[u"activity"][u"current"].toArray())
+        add(LMLocalized("Doing"), LMTables::activity(entry.toObject()));
+    const QJsonArray recent = report[u"activity"][u"recent"].toArray();
+    for (qsizetype i = 0; i < std::min<qsizetype>(recent.size(), 3); ++i)
+        add(LMLocalized("Before"), LMTables::activity(recent[i].toObject()));
     return LMTables::table(rows) + QLatin1Char('\n') + displaysTable(report[u"displays"].toArray());
 }
 
@@ -167,6 +183,17 @@ QString LMTables::printable(const QString& text, int maxLength) {
     finder.setPosition(maxLength - 1);
     const qsizetype end = finder.isAtBoundary() ? maxLength - 1 : finder.toPreviousBoundary();
     return result.left(std::max<qsizetype>(end, 0)) + QStringLiteral("…");
+}
+
+QString LMTables::activity(const QJsonObject& entry) {
+    const auto time = [&entry](QStringView key) {
+        return QDateTime::fromString(entry[key].toString(), Qt::ISODateWithMs)
+            .toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+    };
+    const QString label = printable(entry[u"label"].toString());
+    return entry.contains(u"end")
+               ? LMFormat(LMLocalized("%@ %@ to %@"), {label, time(u"start"), time(u"end")})
+               : LMFormat(LMLocalized("%@ since %@"), {label, time(u"start")});
 }
 
 QString LMTables::table(const QList<QStringList>& rows) {

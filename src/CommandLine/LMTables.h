@@ -12,6 +12,9 @@ namespace LMTables {
 /// The report of a D-Bus method ("Status", "List", "Windows", "Plan") as text.
 QString forReport(const QString& method, const QJsonObject& report);
 
+/// One entry of the status report's activity: what, and from when to when.
+QString activity(const QJsonObject& entry);
+
 /// Columns padded to their widest cell; the first row is the heading.
 QString table(const QList<QStringList>& rows);
 

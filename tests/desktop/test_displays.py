@@ -81,6 +81,7 @@ class Displays(unittest.TestCase):
             self.rook.do("store-all")
         for layout in ("left", "single", "left"):
             self.change(layout)
+            wait_until(lambda: frames(self.desktop, opened) == stored[layout], "the windows to be back unasked", 30.0)
             self.scatter_and_restore(opened, stored[layout], 3)
         self.assertEqual(self.rook.report("status")["counts"]["workspaces"], 2)
         self.change("three")

@@ -1,0 +1,139 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""Windows come back unasked when monitors and applications do, and nothing that calls or scripts do gets in the way."""
+from __future__ import annotations
+
+import os
+import signal
+import sqlite3
+import subprocess
+import sys
+import unittest
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parent.parent.parent / "tools"))
+from rig.desktop import Desktop  # noqa: E402
+from rig.probe import Frame  # noqa: E402
+from rig.processes import wait_until  # noqa: E402
+from rig.resident import Resident  # noqa: E402
+from rig.scenario import Opened, frames, open_windows, scatter  # noqa: E402
+
+WINDOWS = (("xterm", "shell", Frame(2050, 120, 610, 405)), ("featherpad", "readme.txt", Frame(611, 93, 702, 481)),
+           ("mousepad", "letter.txt", Frame(2200, 300, 561, 433)))
+CHANGE = "The displays have changed"
+REFUSED_WITHOUT_WINDOWS = ("menu", "link-window", "show", "preferences", "about", "check-for-updates")
+
+
+class Events(unittest.TestCase):
+    def setUp(self) -> None:
+        self.desktop = Desktop(os.environ.get("ROOK_TEST_MANAGER", "openbox"), "two")
+        self.addCleanup(self.desktop.close)
+        self.rook = Resident(self.desktop.session)
+
+    def open_and_store(self) -> None:
+        self.opened = open_windows(self.desktop, WINDOWS)
+        self.rook.do("store-all", "--overwrite")
+        self.stored = frames(self.desktop, self.opened)
+
+    def logged(self, text: str) -> int:
+        assert self.rook.process
+        return self.rook.process.log.read_text(errors="replace").count(text)
+
+    def wait_until_back(self) -> None:
+        wait_until(lambda: frames(self.desktop, self.opened) == self.stored, "the windows to be back unasked", 30.0)
+
+    def change_to(self, layout: str) -> None:
+        before = self.logged(CHANGE)
+        self.desktop.server.set_layout(layout)
+        wait_until(lambda: self.logged(CHANGE) > before, f"the change to {layout} to be noticed", 20.0)
+        self.rook.report("status")  # Answered when the windows are restored.
+
+    def test_each_configuration_comes_back_with_its_windows(self) -> None:
+        self.open_and_store()
+        stored = {"two": self.stored}
+        for number, layout in enumerate(("single", "left")):
+            self.change_to(layout)
+            scatter(self.desktop, self.opened, number)
+            self.rook.do("store-all")
+            stored[layout] = frames(self.desktop, self.opened)
+        for layout in ("two", "single", "left", "two"):
+            self.change_to(layout)
+            self.stored = stored[layout]
+            self.wait_until_back()
+
+    def test_a_flickering_monitor_restores_once(self) -> None:
+        self.open_and_store()
+        server, before = self.desktop.server, self.logged(CHANGE)
+        for layout in ("single", "two", "single"):
+            server.set_layout(layout)
+        wait_until(lambda: self.logged(CHANGE) > before, "the change", 20.0)
+        self.assertEqual(self.logged(CHANGE), before + 1)
+        scatter(self.desktop, self.opened, 3)
+        restores = self.logged("RESTORE WINDOWS")
+        for layout in ("two", "single", "two"):
+            server.set_layout(layout)
+        self.wait_until_back()
+        self.assertEqual(self.logged("RESTORE WINDOWS"), restores + 1)
+
+    def test_an_application_that_returns_is_restored(self) -> None:
+        self.open_and_store()
+        for application, document, _ in WINDOWS:
+            self.desktop.applications.close(application)
+            window = self.desktop.applications.open(application, document)
+            self.opened = [Opened(application, document, window.identifier) if one.application == application else one
+                           for one in self.opened]
+            self.wait_until_back()
+
+    def add_action(self, script: str) -> None:
+        self.rook.quit()
+        with sqlite3.connect(self.rook.store) as store:
+            workspace, = store.execute("SELECT key FROM Workspace").fetchone()
+            store.execute("INSERT INTO Action(label, script, runAs, runOnDisplayChange, workspace)"
+                          " VALUES('Hold', ?, 'Shell Script', 0, ?)", (script, workspace))
+        store.close()
+        self.rook.start()
+
+    def test_a_script_that_holds_rook_can_be_seen_from_outside(self) -> None:
+        self.open_and_store()
+        marker = self.desktop.session.home / "go"
+        self.add_action(f"#!/bin/sh\nwhile ! test -e '{marker}'; do sleep 0.05; done")
+        scatter(self.desktop, self.opened, 1)
+        restore = subprocess.Popen([self.rook.binary, "restore-all"], env=self.desktop.environment)
+        wait_until(lambda: self.logged("Running the action “Hold” of “2 Displays”…"), "the script to run")
+        status = subprocess.Popen([self.rook.binary, "status"], env=self.desktop.environment, text=True,
+                                  stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        assert status.stderr
+        self.assertIn("Running the action “Hold” of “2 Displays”… since", status.stderr.readline())
+        marker.touch()
+        self.assertIn("Before", status.communicate(timeout=60)[0])
+        self.assertEqual(restore.wait(60), 0)
+        self.assertEqual(frames(self.desktop, self.opened), self.stored)
+
+    def test_calls_of_all_kinds(self) -> None:
+        for command in REFUSED_WITHOUT_WINDOWS:
+            result = self.rook.run(command)
+            self.assertEqual((result.returncode, result.stderr), (1, "rook: This Rook was started without windows.\n"))
+        call = ["dbus-send", "--session", "--print-reply", "--dest=org.rook.Rook", "/org/rook/Rook"]
+        for arguments in (["org.rook.Rook1.StoreAll", "string:yes"], ["org.rook.Rook1.StoreAll"],
+                          ["org.rook.Rook1.RestoreApplication", f"string:{'x' * 100_000}"],
+                          ["org.rook.Rook1.Plan", "array:string:a,b"], ["org.rook.Rook1.Nothing"],
+                          ["org.freedesktop.DBus.Properties.Set", "string:org.rook.Rook1", "string:Version", "variant:string:0"]):
+            subprocess.run([*call, *arguments], env=self.desktop.environment, capture_output=True, check=False, timeout=20)
+        flood = [subprocess.Popen([self.rook.binary, "status"], env=self.desktop.environment,
+                                  stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL) for _ in range(100)]
+        self.assertEqual({process.wait(60) for process in flood}, {0})
+        self.open_and_store()
+
+    def test_the_end_of_the_session_is_saved(self) -> None:
+        self.open_and_store()
+        for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
+            self.rook.do("store-all", "--overwrite")
+            assert self.rook.process
+            self.rook.process.popen.send_signal(number)
+            self.assertEqual(self.rook.process.popen.wait(20), 0)
+            self.rook.start()
+            self.assertEqual(self.rook.report("status")["counts"]["storedWindows"], len(WINDOWS))
+
+
+if __name__ == "__main__":
+    unittest.main()
