@@ -61,9 +61,9 @@ TEST(PackageKitUpdater, AnswersFromWhatTheServiceSays) {
     LMPackageKitUpdater updater(u"rook"_s, &QDBusConnection::sessionBus, logger);
     const auto check = [&] {
         std::optional<LMUpdateResult> result;
-        const auto connection = QObject::connect(
-            &updater, &LMUpdater::checkFinished,
-            [&result](const LMUpdateResult& answer) { result = answer; });
+        const auto connection =
+            QObject::connect(&updater, &LMUpdater::checkFinished,
+                             [&result](const LMUpdateResult& answer) { result = answer; });
         updater.checkForUpdatesInBackground();
         EXPECT_FALSE(result) << "it must not wait";
         updater.checkForUpdatesInBackground(); // Not a second check.
