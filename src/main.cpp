@@ -79,7 +79,9 @@ int serve(LMFrontEnd& frontEnd, LMDesktop& desktop, LMLogger& logger, LMUnixSign
                      [&exitCode](const QString& reason) {
                          if (!reason.isEmpty())
                              exitCode = complain(reason);
-                         QCoreApplication::quit();
+                         // Not quit(), which does nothing while an alert of the launch has the
+                         // only event loop.
+                         QCoreApplication::exit(LMExitCode::Done);
                      });
     delegate.dbusService().registerOn(bus);
     frontEnd.setCommitDataHandler([&delegate] { delegate.commitData(); });

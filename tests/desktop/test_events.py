@@ -134,6 +134,18 @@ class Events(unittest.TestCase):
             self.rook.start()
             self.assertEqual(self.rook.report("status")["counts"]["storedWindows"], len(WINDOWS))
 
+    @unittest.skipIf(os.environ.get("ROOK_TEST_GUI") == "0", "a build without windows")
+    def test_commands_and_signals_during_the_alert_of_the_launch(self) -> None:
+        self.rook.quit()
+        (self.desktop.session.config / "Rook/settings.ini").unlink()
+        process = self.desktop.session.start("rook", [self.rook.binary])
+        process.wait_until(lambda: self.desktop.probe.windows(), "the offer of a launcher", 20.0)
+        result = self.rook.run("store-all")
+        self.assertEqual((result.returncode, result.stderr), (1, "rook: Rook is asking something: answer that first.\n"))
+        self.assertEqual(self.rook.run("status").returncode, 0)
+        process.popen.send_signal(signal.SIGTERM)
+        self.assertEqual(process.popen.wait(20), 0)
+
 
 if __name__ == "__main__":
     unittest.main()
