@@ -63,7 +63,9 @@ std::unique_ptr<LMUserInterface>
 LMFrontEnd::makeUserInterface(LMDesktop& desktop, LMSystemClock& clock, const LMLogger& logger) {
     if (!m_showsWindows)
         return std::make_unique<LMWindowlessUserInterface>(logger);
-    auto userInterface = std::make_unique<LMWidgetUserInterface>(desktop, bundleInformation());
+    using Look = LMWidgetUserInterface::Look;
+    auto userInterface = std::make_unique<LMWidgetUserInterface>(
+        desktop, bundleInformation(), wantsDesktopSettings() ? Look::OfToolkit : Look::OfDesktop);
     clock.setSleepObserver([widgets = userInterface.get()] { widgets->animateProgress(); });
     return userInterface;
 }
@@ -74,10 +76,10 @@ void LMFrontEnd::setCommitDataHandler(std::function<void()> handler) {
         return;
     QObject::connect(
         application, &QGuiApplication::commitDataRequest, application,
-        [save = std::move(handler)](QSessionManager& manager) {
-            // The desktop's autostart brings Rook back, not the saved session: once is enough.
-            manager.setRestartHint(QSessionManager::RestartNever);
-            save();
-        },
+        [save = std::move(handler)](QSessionManager&) { save(); }, Qt::DirectConnection);
+    // The desktop's autostart brings Rook back, not the saved session: once is enough.
+    QObject::connect(
+        application, &QGuiApplication::saveStateRequest, application,
+        [](QSessionManager& manager) { manager.setRestartHint(QSessionManager::RestartNever); },
         Qt::DirectConnection);
 }

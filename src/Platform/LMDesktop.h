@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Platform/LMAccessibility.h"
+#include "Platform/LMAppearance.h"
 #include "Platform/LMApplications.h"
 #include "Platform/LMHotKeys.h"
 #include "Platform/LMScreens.h"
@@ -50,6 +51,9 @@ public:
     /// Whether the display system itself has a place for status icons now. Places that are reached
     /// over the session bus do not count: those work the same everywhere.
     virtual bool hasSystemTray() = 0;
+
+    /// How windows should look. Asked afresh on every call.
+    virtual LMAppearance appearance() = 0;
 
 Q_SIGNALS:
     /// The back end has lost its server for good. Emitted once.

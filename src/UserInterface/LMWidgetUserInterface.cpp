@@ -9,12 +9,24 @@
 #include <QApplication>
 #include <QWindow>
 
-LMWidgetUserInterface::LMWidgetUserInterface(LMDesktop& desktop, LMBundleInformation bundle)
-    : m_desktop(desktop), m_aboutWindowController(std::move(bundle)) {}
+LMWidgetUserInterface::LMWidgetUserInterface(LMDesktop& desktop, LMBundleInformation bundle,
+                                             Look look)
+    : m_desktop(desktop), m_look(look), m_aboutWindowController(std::move(bundle)) {}
 
 LMWidgetUserInterface::~LMWidgetUserInterface() = default;
 
+void LMWidgetUserInterface::followAppearance() {
+    if (m_look == Look::OfDesktop)
+        m_appearance.follow(m_desktop.appearance());
+}
+
+LMProgressWindow& LMWidgetUserInterface::progressWindow() {
+    followAppearance();
+    return m_progressWindowController;
+}
+
 LMAlertAnswer LMWidgetUserInterface::runModal(const LMAlert& alert) {
+    followAppearance();
     LMAlertWindow window(alert);
     window.adjustSize();
     LMCentreWindow(window);
@@ -33,12 +45,16 @@ void LMWidgetUserInterface::activateIgnoringOtherApplications() {
 }
 
 LMStatusMenuView& LMWidgetUserInterface::popUpMenu(LMStatusMenu& menu) {
-    if (!m_popUpMenu)
+    if (!m_popUpMenu) {
         m_popUpMenu = std::make_unique<LMStatusMenuView>(menu, LMStatusMenuView::Drawn::ByUs);
+        QObject::connect(&m_popUpMenu->menu(), &QMenu::aboutToShow, m_popUpMenu.get(),
+                         [this] { followAppearance(); });
+    }
     return *m_popUpMenu;
 }
 
 void LMWidgetUserInterface::showStatusItem(LMStatusMenu& menu) {
+    followAppearance();
     m_statusItem = std::make_unique<LMStatusItem>(m_desktop, menu, popUpMenu(menu));
 }
 
@@ -51,6 +67,7 @@ void LMWidgetUserInterface::displayMenuAtCursor(LMStatusMenu& menu) {
 }
 
 void LMWidgetUserInterface::showAboutPanel() {
+    followAppearance();
     m_aboutWindowController.showWindow();
     LMBringToFront(*m_aboutWindowController.window(), m_desktop);
 }

@@ -3,6 +3,7 @@
 
 #include "Controller/LMUserInterface.h"
 #include "UserInterface/LMAboutWindowController.h"
+#include "UserInterface/LMDesktopAppearance.h"
 #include "UserInterface/LMProgressWindowController.h"
 
 #include <memory>
@@ -14,13 +15,18 @@ class LMStatusMenuView;
 /// The user interface made of widgets. Each part is made when it is first needed.
 class LMWidgetUserInterface final : public LMUserInterface {
 public:
+    enum class Look {
+        OfToolkit, ///< The toolkit reads the desktop's settings itself.
+        OfDesktop, ///< We tell it what the desktop wants.
+    };
+
     /// The desktop outlives the user interface.
-    LMWidgetUserInterface(LMDesktop& desktop, LMBundleInformation bundle);
+    LMWidgetUserInterface(LMDesktop& desktop, LMBundleInformation bundle, Look look);
     ~LMWidgetUserInterface() override;
 
     bool canShowWindows() const override { return true; }
 
-    LMProgressWindow& progressWindow() override { return m_progressWindowController; }
+    LMProgressWindow& progressWindow() override;
     LMAlertAnswer runModal(const LMAlert& alert) override;
     bool isModalWindowOpen() const override;
     void activateIgnoringOtherApplications() override;
@@ -41,8 +47,11 @@ public:
 
 private:
     LMStatusMenuView& popUpMenu(LMStatusMenu& menu);
+    void followAppearance();
 
     LMDesktop& m_desktop;
+    Look m_look;
+    LMDesktopAppearance m_appearance;
     LMProgressWindowController m_progressWindowController;
     LMAboutWindowController m_aboutWindowController;
     std::unique_ptr<LMStatusMenuView> m_popUpMenu;

@@ -33,6 +33,7 @@ public:
     QList<LMCapability> capabilities() const override;
     QString windowManagerName() const override;
     bool hasSystemTray() override { return false; }
+    LMAppearance appearance() override { return {}; }
 
     // --- for tests ----------------------------------------------------------------------------
     /// Everything there is; change it freely.

@@ -8,6 +8,7 @@
 #include "Platform/X11/LMX11Connection.h"
 #include "Platform/X11/LMX11HotKeys.h"
 #include "Platform/X11/LMX11Screens.h"
+#include "Platform/X11/LMX11Settings.h"
 #include "Platform/X11/LMX11SystemTray.h"
 #include "Platform/X11/LMX11WindowManager.h"
 #include "Platform/X11/LMX11WindowServer.h"
@@ -84,6 +85,12 @@ QList<LMCapability> LMX11Desktop::capabilities() const {
 
 bool LMX11Desktop::hasSystemTray() {
     return d->systemTray.isAvailable();
+}
+
+LMAppearance LMX11Desktop::appearance() {
+    return LMAppearanceFromTheme(
+        LMX11StringSetting(*d->connection, QStringLiteral("Net/ThemeName")),
+        LMX11StringSetting(*d->connection, QStringLiteral("Gtk/FontName")));
 }
 
 QString LMX11Desktop::windowManagerName() const {

@@ -30,6 +30,7 @@ public:
     QList<LMCapability> capabilities() const override;
     QString windowManagerName() const override;
     bool hasSystemTray() override;
+    LMAppearance appearance() override;
 
 private:
     struct Parts;

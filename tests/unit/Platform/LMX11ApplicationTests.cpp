@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // How windows become applications, without an X server.
+#include "Platform/LMAppearance.h"
 #include "Platform/X11/LMX11ApplicationTable.h"
 #include "Platform/X11/LMX11Settings.h"
 #include "Platform/X11/LMX11WindowIcon.h"
@@ -97,3 +98,19 @@ TEST(LMX11ApplicationTests, ReadsSettingsOfTheSession) {
 }
 
 } // namespace
+
+TEST(Appearance, IsReadFromThemeAndFontNames) {
+    const struct {
+        QString theme, font;
+        LMAppearance expected;
+    } rows[] = {
+        {u"Adwaita-dark"_qs, u"Noto Sans Medium 10"_qs, {true, u"Noto Sans"_qs, 10}},
+        {u"Greybird"_qs, u"Cantarell, 10.5"_qs, {false, u"Cantarell"_qs, 10.5}},
+        {u"Darkroom"_qs, u"Sans"_qs, {}},
+        {{}, u"Sans 999"_qs, {}},
+        {u"HighContrastBlack Dark"_qs, {}, {true, {}, 0}},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(LMAppearanceFromTheme(row.theme, row.font), row.expected)
+            << row.theme.toStdString();
+}
