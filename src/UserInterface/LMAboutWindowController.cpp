@@ -17,7 +17,7 @@ namespace {
 
 constexpr int IconEdge = 96;
 constexpr int Margin = 20;
-constexpr QSize TextSize(440, 200);
+constexpr QSize TextSize(440, 230);
 
 /// The document of that name, in the first of the formats a resource may have. Of these, Qt shows
 /// HTML; the others appear as the text they are.
@@ -86,7 +86,8 @@ std::unique_ptr<QDialog> LMAboutWindowController::makeWindow() const {
     documents->setDocumentMode(true);
     documents->addTab(documentView(QStringLiteral("Credits")), LMLocalized("Credits"));
     documents->addTab(documentView(QStringLiteral("License")), LMLocalized("License"));
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close);
+    auto* buttons = new QDialogButtonBox;
+    buttons->addButton(LMLocalized("Close"), QDialogButtonBox::RejectRole);
     QObject::connect(buttons, &QDialogButtonBox::rejected, window.get(), &QDialog::reject);
 
     auto* layout = new QVBoxLayout(window.get());

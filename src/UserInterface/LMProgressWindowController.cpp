@@ -25,7 +25,7 @@ void LMProgressWindowController::windowDidLoad() {
     m_content = std::make_unique<QFrame>();
     m_content->setObjectName(QStringLiteral("progressWindow"));
     m_content->setWindowTitle(QStringLiteral("Rook Progress"));
-    m_content->setFrameStyle(int(QFrame::Box) | int(QFrame::Plain));
+    m_content->setFrameStyle(int(QFrame::StyledPanel) | int(QFrame::Plain));
     m_labelTextField = new QLabel(m_content.get());
     m_labelTextField->setTextFormat(Qt::PlainText);
     m_progressIndicator = new LMProgressIndicator(m_content.get());
