@@ -4,6 +4,7 @@
 #include "Model/Store/LMManagedObject.h"
 #include "Platform/LMActivity.h"
 
+#include <QImage>
 #include <QString>
 
 class LMWorkspace;
@@ -27,6 +28,9 @@ public:
     void setRunOnDisplayChange(bool runOnDisplayChange);
 
     LMWorkspace* workspace() const;
+
+    /// 16 × 16 points: that of a script file, or of a program. Never null.
+    QImage icon() const;
 
     /// Runs the script and returns when its output has ended. Failures are logged.
     void run();
