@@ -33,6 +33,9 @@ void LMRestoreEvents::registerForNotifications() {
             &LMRestoreEvents::userLaunchedApplication);
     connect(&desktop.screens(), &LMScreens::screenParametersChanged, this,
             &LMRestoreEvents::applicationDidChangeDisplayParameters);
+    // The change to the other state and back reached us as one: what was seen last is that state.
+    connect(&desktop.screens(), &LMScreens::screensFlickered, this,
+            [this] { m_previousDisplayConfiguration.clear(); });
 }
 
 void LMRestoreEvents::recordDisplayConfiguration() {

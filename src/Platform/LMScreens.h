@@ -66,6 +66,11 @@ Q_SIGNALS:
     /// per change, after monitors and window manager have been quiet for a while.
     void screenParametersChanged();
 
+    /// Emitted just before screenParametersChanged when a screen went through a state it did not
+    /// keep, as one does that is switched off and on again: windows may have been moved although
+    /// the screens are what they were.
+    void screensFlickered();
+
 protected:
     using QObject::QObject;
 };

@@ -75,6 +75,15 @@ class Events(unittest.TestCase):
         self.wait_until_back()
         self.assertEqual(self.logged("RESTORE WINDOWS"), restores + 1)
 
+    def test_a_monitor_that_ends_as_it_began_restores_once_too(self) -> None:
+        self.open_and_store()
+        for _ in range(2):  # the window manager moves the windows although nothing is different in the end
+            self.desktop.server.xrandr("--output", "DUMMY1", "--off")
+            self.desktop.server.xrandr("--output", "DUMMY1", "--mode", "1440x900", "--pos", "1920x0")
+        wait_until(lambda: self.logged("RESTORE WINDOWS"), "a restore", 20.0)
+        self.wait_until_back()
+        self.assertEqual(self.logged("RESTORE WINDOWS"), 1)
+
     def test_an_application_that_returns_is_restored(self) -> None:
         self.open_and_store()
         for application, document, _ in WINDOWS:

@@ -8,7 +8,11 @@
 
 LMX11Screens::LMX11Screens(LMX11Connection& connection)
     : m_connection(connection), m_watcher(connection) {
-    connect(&m_watcher, &LMX11ScreensWatcher::settled, this, &LMScreens::screenParametersChanged);
+    connect(&m_watcher, &LMX11ScreensWatcher::settled, this, [this](bool haveFlickered) {
+        if (haveFlickered)
+            Q_EMIT screensFlickered();
+        Q_EMIT screenParametersChanged();
+    });
 }
 
 QList<LMScreen> LMX11Screens::screens() {

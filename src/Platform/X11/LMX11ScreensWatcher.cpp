@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/X11/LMX11ScreensWatcher.h"
 
-#include <xcb/randr.h>
-
 #include <algorithm>
+#include <utility>
 
 using namespace std::chrono_literals;
 using std::chrono::steady_clock;
@@ -51,6 +50,9 @@ void LMX11ScreensWatcher::handle(const xcb_generic_event_t& event) {
         screensChanged();
     } else if (randr != 0 && type == randr + XCB_RANDR_NOTIFY) {
         screensChanged();
+        const auto& notify = as<xcb_randr_notify_event_t>(event);
+        if (notify.subCode == XCB_RANDR_NOTIFY_CRTC_CHANGE)
+            noteMonitorState(notify.u.cc);
     } else if (type == XCB_CONFIGURE_NOTIFY) {
         // The root window's own: it was resized, or the list of monitors was edited.
         if (as<xcb_configure_notify_event_t>(event).window == m_connection.root())
@@ -68,6 +70,13 @@ void LMX11ScreensWatcher::handle(const xcb_generic_event_t& event) {
 void LMX11ScreensWatcher::noteRootSize(const QSizeF& pixels, const QSizeF& millimetres) {
     m_millimetresPerPixel = QSizeF(ratio(millimetres.width(), pixels.width()),
                                    ratio(millimetres.height(), pixels.height()));
+}
+
+void LMX11ScreensWatcher::noteMonitorState(const xcb_randr_crtc_change_t& change) {
+    const QPair state(change.mode, QRect(change.x, change.y, change.width, change.height));
+    const auto known = m_monitorStates.constFind(change.crtc);
+    m_haveFlickered |= known != m_monitorStates.constEnd() && *known != state;
+    m_monitorStates.insert(change.crtc, state);
 }
 
 void LMX11ScreensWatcher::screensChanged() {
@@ -88,7 +97,8 @@ void LMX11ScreensWatcher::checkWhetherSettled() {
     m_timer.stop();
     m_connection.deselectEvents(m_connection.root(), XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY);
     m_connection.flush();
-    Q_EMIT settled();
+    m_monitorStates.clear();
+    Q_EMIT settled(std::exchange(m_haveFlickered, false));
 }
 
 /// One timer for the whole burst: events only move the deadline, which is looked up when it fires.

@@ -4,9 +4,14 @@
 #include "Platform/X11/LMX11Connection.h"
 #include "Platform/X11/LMX11ScreenSettling.h"
 
+#include <QHash>
 #include <QObject>
+#include <QPair>
+#include <QRect>
 #include <QSizeF>
 #include <QTimer>
+
+#include <xcb/randr.h>
 
 /// Listens for changes of the monitors and says when they have come to rest.
 ///
@@ -21,12 +26,14 @@ public:
     QSizeF millimetresPerPixel() const { return m_millimetresPerPixel; }
 
 Q_SIGNALS:
-    void settled();
+    /// With whether a monitor took more than one state on the way.
+    void settled(bool haveFlickered);
 
 private:
     void handle(const xcb_generic_event_t& event);
     void noteRootSize(const QSizeF& pixels, const QSizeF& millimetres);
     void screensChanged();
+    void noteMonitorState(const xcb_randr_crtc_change_t& change);
     void checkWhetherSettled();
     void waitUntilDeadline();
 
@@ -34,5 +41,9 @@ private:
     LMX11Connection::Subscription m_subscription;
     LMX11ScreenSettling m_settling;
     QTimer m_timer;
+    /// What each CRTC was reported to show since the burst began (mode, place, size), and whether
+    /// any was reported to show two different things.
+    QHash<xcb_randr_crtc_t, QPair<xcb_randr_mode_t, QRect>> m_monitorStates;
+    bool m_haveFlickered = false;
     QSizeF m_millimetresPerPixel;
 };
