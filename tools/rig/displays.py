@@ -60,6 +60,13 @@ def selection_owner(display_name: str, selection: str) -> int:
         return int(x11.XGetSelectionOwner(display, ctypes.c_ulong(x11.XInternAtom(display, selection.encode(), False))))
 
 
+def keyboard_is_free(display_name: str) -> bool:
+    """Whether nobody holds a grab of the keyboard."""
+    with connection(display_name) as (x11, display):
+        root = ctypes.c_ulong(x11.XDefaultRootWindow(display))
+        return x11.XGrabKeyboard(display, root, 0, 1, 1, ctypes.c_ulong(0)) == 0  # closing ends it
+
+
 def set_edids(display_name: str, blobs: Mapping[str, bytes]) -> None:
     """Writes the property EDID of the named outputs, which xrandr can show but not create."""
     randr = ctypes.CDLL("libXrandr.so.2")
