@@ -68,6 +68,7 @@ TEST(LMShortcutTest, NoBytesAreTooStrangeToBeRead) {
         "bplist00",
         "garbage",
         good.chopped(1),
+        QByteArray(good).replace("keyCode", QByteArray("key\0ode", 7)),
         bomb,
         QByteArray(5000, '\xff'),
         LMArchivedRecord({{u"keyCode"_qs, 15}}),
