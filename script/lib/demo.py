@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The main job on real windows: store, scatter, restore, compare, with pictures."""
+"""The main job on real windows, on command and unasked: stored, scattered, restored, compared, with pictures."""
 from __future__ import annotations
 
 import os
@@ -11,11 +11,13 @@ sys.path.insert(0, str(ROOT / "tools"))
 from rig.desktop import Desktop  # noqa: E402
 from rig.pictures import table  # noqa: E402
 from rig.probe import Window  # noqa: E402
+from rig.processes import RigError, wait_until  # noqa: E402
 from rig.resident import Resident  # noqa: E402
 from rig.scenario import Opened, open_windows, readings, scatter  # noqa: E402
 
 PICTURES = ROOT / "build/demo"
 MINIMISED, ELSEWHERE, CLIENT_DECORATED = "notes.txt", "Pictures", "todo.txt"
+RESTARTED = "gedit"
 
 
 def state(window: Window) -> str:
@@ -25,20 +27,57 @@ def state(window: Window) -> str:
     return ", ".join(words)
 
 
-def show(opened: list[Opened], stored: dict[int, Window], scattered: dict[int, Window],
-         restored: dict[int, Window]) -> bool:
-    """Prints the table; answers whether every window is where it was, to the pixel."""
+def show(opened: list[Opened], *stages: tuple[str, dict[int, Window]]) -> bool:
+    """Prints the table of frames, the first stage being what was stored; answers whether every window is back in the
+    last one, to the pixel."""
+    (_, stored), (_, last) = stages[0], stages[-1]
     rows, all_back = [], True
     for window in opened:
-        identifier = window.identifier
-        is_back = restored[identifier].frame == stored[identifier].frame
-        is_back = is_back and restored[identifier].minimised == stored[identifier].minimised
-        is_back = is_back and restored[identifier].desktop == stored[identifier].desktop
+        before, after = stored[window.identifier], last[window.identifier]
+        is_back = (after.frame, after.minimised, after.desktop) == (before.frame, before.minimised, before.desktop)
         all_back = all_back and is_back
-        rows.append([window.application, window.document, stored[identifier].frame, scattered[identifier].frame,
-                     restored[identifier].frame, state(restored[identifier]), "yes" if is_back else "NO"])
-    print(table(["application", "title", "stored", "scattered", "restored", "state", "ok"], rows))
+        rows.append([window.application, window.document, *(stage[window.identifier].frame for _, stage in stages),
+                     state(after), "yes" if is_back else "NO"])
+    print(table(["application", "title", *(name for name, _ in stages), "state", "ok"], rows))
     return all_back
+
+
+def wait_until_back(desktop: Desktop, opened: list[Opened], stored: dict[int, Window]) -> dict[int, Window]:
+    """What stands on the desktop once every window is back, or when waiting makes no sense any more."""
+    def is_back() -> bool:
+        now = readings(desktop, opened)
+        return all(now[window].frame == stored[window].frame for window in now)
+    try:
+        wait_until(is_back, "the windows to come back", 20.0, 0.3)
+    except RigError as error:
+        print(f"== {error}")
+    return readings(desktop, opened)
+
+
+def show_displays(desktop: Desktop, opened: list[Opened], stored: dict[int, Window]) -> bool:
+    """The second monitor goes and comes back."""
+    print("== the second monitor is unplugged: the window manager heaps its windows on the first")
+    desktop.server.set_layout("single")
+    heaped = readings(desktop, opened)
+    desktop.picture(PICTURES / "4-unplugged.png")
+    print("== and plugged in again: Rook restores unasked")
+    desktop.server.set_layout("two")
+    back = wait_until_back(desktop, opened, stored)
+    desktop.picture(PICTURES / "5-plugged.png")
+    return show(opened, ("stored", stored), ("unplugged", heaped), ("plugged in", back))
+
+
+def show_launch(desktop: Desktop, opened: list[Opened], stored: dict[int, Window]) -> bool:
+    """An application ends and is started again."""
+    print(f"== {RESTARTED} is ended and started again: its windows go where they were")
+    desktop.applications.close(RESTARTED)
+    again, before, fresh = [], {}, {}
+    for old in (window for window in opened if window.application == RESTARTED):
+        window = desktop.applications.open(RESTARTED, old.document)
+        again.append(Opened(RESTARTED, old.document, window.identifier))
+        before[window.identifier], fresh[window.identifier] = stored[old.identifier], window
+    return show(again, ("stored", before), ("as started", fresh),
+                ("a moment later", wait_until_back(desktop, again, before)))
 
 
 def main() -> int:
@@ -68,8 +107,10 @@ def main() -> int:
         rook.do("restore-all")
         restored = readings(desktop, opened)
         desktop.picture(PICTURES / "3-restored.png")
-        all_back = show(opened, stored, scattered, restored)
+        all_back = show(opened, ("stored", stored), ("scattered", scattered), ("restored", restored))
         print(rook.run("plan").stdout)
+        all_back = show_displays(desktop, opened, stored) and all_back
+        all_back = show_launch(desktop, opened, stored) and all_back
         rook.quit()
     print(f"== pictures: {PICTURES.relative_to(ROOT)}/*.png")
     print("== every window is back to the pixel" if all_back else "== some windows are NOT back")

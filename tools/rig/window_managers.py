@@ -72,7 +72,7 @@ class WindowManager:
             (self._session.config / "monitors.xml").write_text(monitors_xml(self._server.xrandr("--verbose")))
         environment = {"KWIN_COMPOSE": "N"} if self.name == "kwin_x11" else {}
         process = self._session.start(self.name, COMMANDS[self.name], environment=environment)
-        process.wait_until(lambda: running_manager(self._session.environment), f"{self.name} to manage the display")
+        process.wait_until(lambda: running_manager(self._session.environment), f"{self.name} to manage the display", 30.0)
         self._set_desktops()
         return process
 
