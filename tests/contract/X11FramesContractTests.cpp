@@ -59,6 +59,9 @@ protected:
     }
     /// The window with the focus and the virtual desktop that is shown.
     QString place() { return LMRunTool(u"xprop -root _NET_ACTIVE_WINDOW _NET_CURRENT_DESKTOP"_qs); }
+    bool isActive(const LMElement& window) {
+        return place().contains(u" 0x%1"_qs.arg(window.identifier, 0, 16));
+    }
     /// Waits until the window stands still: managers and clients still draw when states change.
     QRectF settledFrame(const LMElement& window) {
         QRectF last;
@@ -88,6 +91,7 @@ TEST_P(X11FramesContract, WindowsGoToTheirFramesFromEveryState) {
             const LMElement window = open({.kind = kind});
             const LMElement other = open({.application = u"second"_qs});
             backend->raise(other);
+            ASSERT_TRUE(LMWaitUntil([&] { return isActive(other); }));
             restore(window, stored);
             ASSERT_EQ(settledFrame(window), stored);
             restore(window, QRectF(420, 260, 500, 390));
@@ -183,7 +187,7 @@ TEST_P(X11FramesContract, ATerminalComesBackToItsMaximizedFrame) {
     enter(window, State::Maximized);
     const QRectF stored = settledFrame(window);
     leave(window, State::Maximized);
-    ASSERT_NE(settledFrame(window), stored);
+    ASSERT_TRUE(LMWaitUntil([&] { return settledFrame(window) != stored; }));
     restore(window, stored);
     EXPECT_EQ(settledFrame(window), stored);
 }
