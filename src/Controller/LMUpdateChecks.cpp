@@ -16,7 +16,7 @@
 
 namespace {
 
-/// Desktop Notifications Specification, method Notify. Nobody waits for the answer.
+/// Method Notify of org.freedesktop.Notifications. Nobody waits for the answer.
 void showDesktopMessage(const QString& summary, const QString& body) {
     QDBusMessage message = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.Notifications"),
