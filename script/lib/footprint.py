@@ -13,7 +13,7 @@ sys.path.insert(0, str(ROOT / "tools"))
 from rig.desktop import Desktop  # noqa: E402
 from rig.resident import Resident  # noqa: E402
 
-STORED = 1000
+STORED = 100
 STARTS = 7
 IDLE_SECONDS = int(os.environ.get("ROOK_IDLE_SECONDS", "60"))
 ASK = ["dbus-send", "--session", "--print-reply", "--dest=org.rook.Rook", "/org/rook/Rook", "org.rook.Rook1.Status"]
