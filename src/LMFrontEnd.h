@@ -11,9 +11,9 @@
 #include <string>
 #include <vector>
 
-class LMDesktop;
-class LMLogger;
+class LMStoredWindowsStore;
 class LMSystemClock;
+struct LMEnvironment;
 
 /// The application object and the user interface: what differs between a build with widgets
 /// (LMWidgetFrontEnd.cpp) and one without (LMWindowlessFrontEnd.cpp).
@@ -25,8 +25,11 @@ public:
     ~LMFrontEnd();
     Q_DISABLE_COPY_MOVE(LMFrontEnd)
 
-    std::unique_ptr<LMUserInterface> makeUserInterface(LMDesktop& desktop, LMSystemClock& clock,
-                                                       const LMLogger& logger);
+    /// The clock is the environment's, which can be observed while it sleeps. All three outlive
+    /// the user interface.
+    std::unique_ptr<LMUserInterface> makeUserInterface(LMEnvironment& environment,
+                                                       LMStoredWindowsStore& store,
+                                                       LMSystemClock& clock);
 
     /// The session manager asks for everything to be saved, since the session may end now.
     void setCommitDataHandler(std::function<void()> handler);

@@ -3,6 +3,7 @@
 
 #include "Controller/LMWindowlessUserInterface.h"
 #include "Platform/LMClock.h"
+#include "Platform/LMEnvironment.h"
 #include "UserInterface/LMWidgetUserInterface.h"
 
 #include <QApplication>
@@ -59,13 +60,15 @@ LMFrontEnd::LMFrontEnd(int argc, char** argv, bool showsWindows)
 
 LMFrontEnd::~LMFrontEnd() = default;
 
-std::unique_ptr<LMUserInterface>
-LMFrontEnd::makeUserInterface(LMDesktop& desktop, LMSystemClock& clock, const LMLogger& logger) {
+std::unique_ptr<LMUserInterface> LMFrontEnd::makeUserInterface(LMEnvironment& environment,
+                                                               LMStoredWindowsStore& store,
+                                                               LMSystemClock& clock) {
     if (!m_showsWindows)
-        return std::make_unique<LMWindowlessUserInterface>(logger);
+        return std::make_unique<LMWindowlessUserInterface>(environment.logger);
     using Look = LMWidgetUserInterface::Look;
     auto userInterface = std::make_unique<LMWidgetUserInterface>(
-        desktop, bundleInformation(), wantsDesktopSettings() ? Look::OfToolkit : Look::OfDesktop);
+        environment, store, bundleInformation(),
+        wantsDesktopSettings() ? Look::OfToolkit : Look::OfDesktop);
     clock.setSleepObserver([widgets = userInterface.get()] { widgets->animateProgress(); });
     return userInterface;
 }

@@ -2,6 +2,7 @@
 #include "LMFrontEnd.h"
 
 #include "Controller/LMWindowlessUserInterface.h"
+#include "Platform/LMEnvironment.h"
 
 LMFrontEnd::LMFrontEnd(int argc, char** argv, bool)
     : m_argumentCount(argc), m_arguments(argv, argv + argc + 1),
@@ -9,9 +10,9 @@ LMFrontEnd::LMFrontEnd(int argc, char** argv, bool)
 
 LMFrontEnd::~LMFrontEnd() = default;
 
-std::unique_ptr<LMUserInterface> LMFrontEnd::makeUserInterface(LMDesktop&, LMSystemClock&,
-                                                               const LMLogger& logger) {
-    return std::make_unique<LMWindowlessUserInterface>(logger);
+std::unique_ptr<LMUserInterface>
+LMFrontEnd::makeUserInterface(LMEnvironment& environment, LMStoredWindowsStore&, LMSystemClock&) {
+    return std::make_unique<LMWindowlessUserInterface>(environment.logger);
 }
 
 void LMFrontEnd::setCommitDataHandler(std::function<void()>) {}

@@ -70,7 +70,7 @@ int serve(LMFrontEnd& frontEnd, LMDesktop& desktop, LMLogger& logger, LMUnixSign
     LMPackageKitUpdater updater(QStringLiteral("rook"), &QDBusConnection::systemBus, logger);
     environment.updater = &updater;
     LMStoredWindowsStore store(environment);
-    const auto userInterface = frontEnd.makeUserInterface(desktop, clock, logger);
+    const auto userInterface = frontEnd.makeUserInterface(environment, store, clock);
     LMApplicationDelegate delegate(environment, store, *userInterface);
     QObject::connect(&signals, &LMUnixSignals::terminationRequested, &delegate,
                      [&delegate] { delegate.quit(); });

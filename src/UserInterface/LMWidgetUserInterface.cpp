@@ -2,6 +2,7 @@
 #include "UserInterface/LMWidgetUserInterface.h"
 
 #include "Platform/LMDesktop.h"
+#include "Platform/LMEnvironment.h"
 #include "UserInterface/LMAlertWindow.h"
 #include "UserInterface/LMStatusItem.h"
 #include "UserInterface/LMWindowPlacement.h"
@@ -9,15 +10,17 @@
 #include <QApplication>
 #include <QWindow>
 
-LMWidgetUserInterface::LMWidgetUserInterface(LMDesktop& desktop, LMBundleInformation bundle,
-                                             Look look)
-    : m_desktop(desktop), m_look(look), m_aboutWindowController(std::move(bundle)) {}
+LMWidgetUserInterface::LMWidgetUserInterface(LMEnvironment& environment,
+                                             LMStoredWindowsStore& store,
+                                             LMBundleInformation bundle, Look look)
+    : m_environment(environment), m_store(store), m_look(look),
+      m_aboutWindowController(std::move(bundle)) {}
 
 LMWidgetUserInterface::~LMWidgetUserInterface() = default;
 
 void LMWidgetUserInterface::followAppearance() {
     if (m_look == Look::OfDesktop)
-        m_appearance.follow(m_desktop.appearance());
+        m_appearance.follow(m_environment.desktop.appearance());
 }
 
 LMProgressWindow& LMWidgetUserInterface::progressWindow() {
@@ -30,7 +33,7 @@ LMAlertAnswer LMWidgetUserInterface::runModal(const LMAlert& alert) {
     LMAlertWindow window(alert);
     window.adjustSize();
     LMCentreWindow(window);
-    LMBringToFront(window, m_desktop);
+    LMBringToFront(window, m_environment.desktop);
     window.exec();
     return window.answer();
 }
@@ -41,7 +44,7 @@ bool LMWidgetUserInterface::isModalWindowOpen() const {
 
 void LMWidgetUserInterface::activateIgnoringOtherApplications() {
     // Without a window there is nothing to bring to the front, and nothing is lost by trying.
-    m_desktop.applications().activate(QCoreApplication::applicationPid());
+    m_environment.desktop.applications().activate(QCoreApplication::applicationPid());
 }
 
 LMStatusMenuView& LMWidgetUserInterface::popUpMenu(LMStatusMenu& menu) {
@@ -55,7 +58,7 @@ LMStatusMenuView& LMWidgetUserInterface::popUpMenu(LMStatusMenu& menu) {
 
 void LMWidgetUserInterface::showStatusItem(LMStatusMenu& menu) {
     followAppearance();
-    m_statusItem = std::make_unique<LMStatusItem>(m_desktop, menu, popUpMenu(menu));
+    m_statusItem = std::make_unique<LMStatusItem>(m_environment.desktop, menu, popUpMenu(menu));
 }
 
 void LMWidgetUserInterface::removeStatusItem() {
@@ -69,7 +72,7 @@ void LMWidgetUserInterface::displayMenuAtCursor(LMStatusMenu& menu) {
 void LMWidgetUserInterface::showAboutPanel() {
     followAppearance();
     m_aboutWindowController.showWindow();
-    LMBringToFront(*m_aboutWindowController.window(), m_desktop);
+    LMBringToFront(*m_aboutWindowController.window(), m_environment.desktop);
 }
 
 // What later windows provide stands under its name already and does nothing yet.

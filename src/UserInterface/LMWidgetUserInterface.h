@@ -8,9 +8,10 @@
 
 #include <memory>
 
-class LMDesktop;
 class LMStatusItem;
 class LMStatusMenuView;
+class LMStoredWindowsStore;
+struct LMEnvironment;
 
 /// The user interface made of widgets. Each part is made when it is first needed.
 class LMWidgetUserInterface final : public LMUserInterface {
@@ -20,8 +21,9 @@ public:
         OfDesktop, ///< We tell it what the desktop wants.
     };
 
-    /// The desktop outlives the user interface.
-    LMWidgetUserInterface(LMDesktop& desktop, LMBundleInformation bundle, Look look);
+    /// The environment and the store outlive the user interface.
+    LMWidgetUserInterface(LMEnvironment& environment, LMStoredWindowsStore& store,
+                          LMBundleInformation bundle, Look look);
     ~LMWidgetUserInterface() override;
 
     bool canShowWindows() const override { return true; }
@@ -49,7 +51,8 @@ private:
     LMStatusMenuView& popUpMenu(LMStatusMenu& menu);
     void followAppearance();
 
-    LMDesktop& m_desktop;
+    LMEnvironment& m_environment;
+    LMStoredWindowsStore& m_store;
     Look m_look;
     LMDesktopAppearance m_appearance;
     LMProgressWindowController m_progressWindowController;
