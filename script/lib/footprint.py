@@ -2,7 +2,9 @@
 """What the resident process costs when nothing happens: memory, start-up time, wake-ups."""
 from __future__ import annotations
 
+import json
 import os
+import sqlite3
 import statistics
 import sys
 import time
@@ -13,7 +15,8 @@ sys.path.insert(0, str(ROOT / "tools"))
 from rig.desktop import Desktop  # noqa: E402
 from rig.resident import Resident  # noqa: E402
 
-STORED = 100
+LIVE = 50  # more live windows than that take a window manager minutes
+STORED = 1000
 STARTS = 7
 IDLE_SECONDS = int(os.environ.get("ROOK_IDLE_SECONDS", "60"))
 ASK = ["dbus-send", "--session", "--print-reply", "--dest=org.rook.Rook", "/org/rook/Rook", "org.rook.Rook1.Status"]
@@ -42,23 +45,48 @@ def milliseconds_to_ready(desktop: Desktop, rook: Resident) -> float:
     return 1000 * (time.monotonic() - start)
 
 
+def multiply_stored_windows(store: Path) -> None:
+    """Copies the stored windows of the one application until there are as many as wanted."""
+    with sqlite3.connect(store) as database:
+        stored = database.execute('SELECT * FROM "StoredWindow"').fetchall()
+        snapshots = {row[1]: row for row in database.execute('SELECT * FROM "Window"')}
+        ordering = []
+        for number in range(STORED):
+            _, application, label, pattern, frame, _ = original = stored[number % len(stored)]
+            _, _, title, *shape = snapshots[original[0]]
+            key = 10_000 + number
+            matching = json.dumps([f"rook://Window/{key}"])
+            database.execute('INSERT INTO "StoredWindow" VALUES (?, ?, ?, ?, ?, ?)',
+                             (key, application, label, pattern, frame, matching))
+            database.execute(f'INSERT INTO "Window" VALUES ({", ".join("?" * (3 + len(shape)))})',
+                             (key, key, f"{title} of {number}", *shape))
+            ordering.append(f"rook://StoredWindow/{key}")
+        for table in ("Window", "StoredWindow"):
+            database.execute(f'DELETE FROM "{table}" WHERE "key" < 10000')
+        database.execute('UPDATE "Application" SET "windowsOrdering" = ?', (json.dumps(ordering),))
+        database.execute("""UPDATE "NextKey" SET "nextKey" = 20000 WHERE "entity" = 'StoredWindow'""")
+    database.close()
+
+
 def main() -> None:
     with Desktop("openbox", "two", tray=True) as desktop:
         rook = Resident(desktop.session, ROOT / os.environ["ROOK_BINARY"],
                         headless=False, settings={"CreateScreenshotsWhenStoringWindows": False})
         spawner = desktop.spawner()
-        spawner.create(count=STORED, title="window", geometry="120x80+100+100")
+        spawner.create(count=LIVE, title="window", geometry="120x80+100+100")
         rook.do("store-all")
-        stored = rook.report("status")["counts"]["storedWindows"]
         spawner.process.stop()
         rook.quit()
+        multiply_stored_windows(rook.store)
         times, sizes = [], []
         for number in range(STARTS):
             times.append(milliseconds_to_ready(desktop, rook))
             assert rook.process
+            stored = rook.report("status")["counts"]["storedWindows"]
             sizes.append(memory(rook.process.identifier))
             if number < STARTS - 1:
                 rook.quit()
+        assert stored == STORED, f"{stored} stored windows"
         print(f"ready for commands, {stored} stored windows: {statistics.median(times):.0f} ms after exec (at most 250)")
         print(f"proportional memory before any window was opened: {statistics.median(sizes):.1f} MB (at most 25)")
         identifier = rook.process.identifier
