@@ -8,6 +8,8 @@ struct LMAppearance {
     bool isDark = false;
     QString fontFamily;
     double fontSize = 0; ///< Points.
+    /// Whether what stands below a translucent window shows through it.
+    bool isComposited = false;
 
     bool operator==(const LMAppearance&) const = default;
 };

@@ -88,9 +88,11 @@ bool LMX11Desktop::hasSystemTray() {
 }
 
 LMAppearance LMX11Desktop::appearance() {
-    return LMAppearanceFromTheme(
-        LMX11StringSetting(*d->connection, QStringLiteral("Net/ThemeName")),
-        LMX11StringSetting(*d->connection, QStringLiteral("Gtk/FontName")));
+    LMAppearance appearance =
+        LMAppearanceFromTheme(LMX11StringSetting(*d->connection, QStringLiteral("Net/ThemeName")),
+                              LMX11StringSetting(*d->connection, QStringLiteral("Gtk/FontName")));
+    appearance.isComposited = LMX11IsComposited(*d->connection);
+    return appearance;
 }
 
 QString LMX11Desktop::windowManagerName() const {

@@ -87,3 +87,16 @@ QString LMX11StringSetting(LMX11Connection& connection, const QString& name) {
                               .receive(connection);
     return LMX11StringSettingInBytes(settings.bytes(), name);
 }
+
+bool LMX11IsComposited(LMX11Connection& connection) {
+    xcb_connection_t* xcb = connection.xcb();
+    const QByteArray selection = "_NET_WM_CM_S" + QByteArray::number(connection.screenNumber());
+    const auto atom = connection.reply(
+        xcb_intern_atom_reply,
+        xcb_intern_atom(xcb, 1, static_cast<uint16_t>(selection.size()), selection.constData()));
+    if (!atom || atom->atom == XCB_ATOM_NONE)
+        return false;
+    const auto owner =
+        connection.reply(xcb_get_selection_owner_reply, xcb_get_selection_owner(xcb, atom->atom));
+    return owner && owner->owner != XCB_WINDOW_NONE;
+}

@@ -13,3 +13,7 @@ QString LMX11StringSetting(LMX11Connection& connection, const QString& name);
 
 /// The same from the content of the daemon's property. Null for malformed content.
 QString LMX11StringSettingInBytes(QByteArrayView bytes, const QString& name);
+
+/// Whether a compositing manager runs: it owns the selection that EWMH sets aside for it. Two round
+/// trips.
+bool LMX11IsComposited(LMX11Connection& connection);
