@@ -9,9 +9,19 @@
 #include "Utilities/LMRectangle.h"
 
 #include <QFileInfo>
+#include <QImageReader>
 #include <QSaveFile>
 
 namespace {
+
+/// Reading from anything else, a pipe above all, may never end.
+bool isReadable(const QString& path) {
+    return !path.isEmpty() && QFileInfo(path).isFile();
+}
+
+QImage defaultWindow() {
+    return QImage(QStringLiteral(":/rook/DefaultWindow.png"));
+}
 
 /// Writes the whole file or none; the reason of a failure is logged.
 bool writePicture(const QImage& image, const QString& path, const LMLogger& logger) {
@@ -35,6 +45,18 @@ LMScreenshot LMTakeScreenshot(LMEnvironment& environment,
             return {index, image};
     }
     return {};
+}
+
+QImage LMLoadScreenshot(const QString& path) {
+    QImage image;
+    if (isReadable(path))
+        image.load(path);
+    return image.isNull() ? defaultWindow() : image;
+}
+
+QSize LMScreenshotSize(const QString& path) {
+    const QSize size = isReadable(path) ? QImageReader(path).size() : QSize();
+    return size.isEmpty() ? defaultWindow().size() : size;
 }
 
 bool LMAttachScreenshot(const QImage& image, LMWindow& window) {

@@ -20,6 +20,12 @@ struct LMScreenshot {
 LMScreenshot LMTakeScreenshot(LMEnvironment& environment,
                               const QList<LMWindowDescription>& descriptions, const QRectF& frame);
 
+/// The picture at a path, or the "DefaultWindow" image where none can be read. Any thread.
+QImage LMLoadScreenshot(const QString& path);
+/// The size of that picture, from the beginning of its file: fast, but a damaged file may turn out
+/// to hold no picture.
+QSize LMScreenshotSize(const QString& path);
+
 /// Writes the picture to a new PNG file in the screenshots folder and gives the window its name.
 /// When that fails it is logged, the window keeps the name it has, and the answer is false.
 bool LMAttachScreenshot(const QImage& image, LMWindow& window);

@@ -69,6 +69,8 @@ public:
     const LMElement& element() const { return m_element; }
     void setElement(const LMElement& element);
     bool isDesktopWindow() const;
+    /// Where its picture is kept; null when it has none or there is no folder for pictures.
+    QString screenshotPath() const;
     /// The picture taken when the window was stored, or the "DefaultWindow" image.
     QImage screenshot() const;
 

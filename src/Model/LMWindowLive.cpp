@@ -3,6 +3,7 @@
 
 #include "Categories/LMAccessibilityException.h"
 #include "Categories/LMElementFunctions.h"
+#include "Model/LMScreenshots.h"
 #include "Model/Store/LMObjectContext.h"
 #include "Platform/LMDesktop.h"
 #include "Platform/LMEnvironment.h"
@@ -96,12 +97,13 @@ bool LMWindow::isDesktopWindow() const {
            isEmpty(m_title) && m_children && *m_children == QStringList{QStringLiteral("AXGroup")};
 }
 
-QImage LMWindow::screenshot() const {
+QString LMWindow::screenshotPath() const {
     // Only a name: a store file from elsewhere must not lead out of the folder.
     const QString name = QFileInfo(m_screenshotFilename).fileName();
     const QString folder = environment().folders.screenshotsDirectoryURL();
-    QImage image;
-    if (!name.isEmpty() && !folder.isNull())
-        image.load(folder + u'/' + name);
-    return image.isNull() ? QImage(QStringLiteral(":/rook/DefaultWindow.png")) : image;
+    return name.isEmpty() || folder.isNull() ? QString() : QString(folder + u'/' + name);
+}
+
+QImage LMWindow::screenshot() const {
+    return LMLoadScreenshot(screenshotPath());
 }
