@@ -6,6 +6,7 @@
 #include "UserInterface/LMAlertWindow.h"
 #include "UserInterface/LMStatusItem.h"
 #include "UserInterface/LMWindowPlacement.h"
+#include "UserInterface/WindowLinking/LMStoredWindowPicker.h"
 
 #include <QApplication>
 #include <QWindow>
@@ -24,11 +25,13 @@ void LMWidgetUserInterface::followAppearance() {
 }
 
 LMProgressWindow& LMWidgetUserInterface::progressWindow() {
+    closeStoredWindowPicker();
     followAppearance();
     return m_progressWindowController;
 }
 
 LMAlertAnswer LMWidgetUserInterface::runModal(const LMAlert& alert) {
+    closeStoredWindowPicker();
     followAppearance();
     LMAlertWindow window(alert);
     window.adjustSize();
@@ -66,18 +69,35 @@ void LMWidgetUserInterface::removeStatusItem() {
 }
 
 void LMWidgetUserInterface::displayMenuAtCursor(LMStatusMenu& menu) {
+    closeStoredWindowPicker();
     popUpMenu(menu).popUpAtCursor();
 }
 
 void LMWidgetUserInterface::showAboutPanel() {
+    closeStoredWindowPicker();
     followAppearance();
     m_aboutWindowController.showWindow();
     LMBringToFront(*m_aboutWindowController.window(), m_environment.desktop);
 }
 
+void LMWidgetUserInterface::showStoredWindowPicker(LMWorkspace& workspace,
+                                                   LMWindow& focusedWindow) {
+    followAppearance();
+    if (!m_storedWindowPicker)
+        m_storedWindowPicker =
+            std::make_unique<LMStoredWindowPicker>(m_environment, m_store, *this);
+    m_storedWindowPicker->setFocusedWindow(focusedWindow);
+    m_storedWindowPicker->setWorkspace(workspace);
+    m_storedWindowPicker->showWindow();
+}
+
+// Whatever else comes to the front calls it, too: it would be below, and without the keyboard.
+void LMWidgetUserInterface::closeStoredWindowPicker() {
+    if (m_storedWindowPicker)
+        m_storedWindowPicker->close(false);
+}
+
 // What later windows provide stands under its name already and does nothing yet.
-void LMWidgetUserInterface::showStoredWindowPicker(LMWorkspace&, LMWindow&) {}
-void LMWidgetUserInterface::closeStoredWindowPicker() {}
 void LMWidgetUserInterface::showStoredWindowsList() {}
 void LMWidgetUserInterface::showPreferencesWindow() {}
 void LMWidgetUserInterface::reloadTableViews() {}

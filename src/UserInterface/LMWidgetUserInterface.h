@@ -10,6 +10,7 @@
 
 class LMStatusItem;
 class LMStatusMenuView;
+class LMStoredWindowPicker;
 class LMStoredWindowsStore;
 struct LMEnvironment;
 
@@ -59,4 +60,5 @@ private:
     LMAboutWindowController m_aboutWindowController;
     std::unique_ptr<LMStatusMenuView> m_popUpMenu;
     std::unique_ptr<LMStatusItem> m_statusItem; ///< Uses the menu above.
+    std::unique_ptr<LMStoredWindowPicker> m_storedWindowPicker;
 };
