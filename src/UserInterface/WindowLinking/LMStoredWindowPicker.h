@@ -93,7 +93,7 @@ private:
     LMStoredWindowPickerView* m_view; ///< A child of the window.
     std::vector<std::unique_ptr<LMFullscreenWindow>> m_blankoutWindows;
     QVariantAnimation m_fade;
-    QTimer m_forgotten;
+    QTimer m_forgotten{this};
     double m_alpha = 0;
     bool m_isOpen = false;
     std::optional<LMObjectID> m_chosen; ///< To be linked when the overlay is gone.
