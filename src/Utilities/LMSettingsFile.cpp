@@ -174,5 +174,6 @@ Status LMSettingsFile::replaceFile(const QVariantMap& values) {
     scratch.setAutoRemove(false);
     m_text = text;
     m_values = values;
+    m_isMalformed = false;
     return Status::success();
 }

@@ -120,8 +120,10 @@ TEST_F(LMUserDefaultsTest, FailedWritesAreLoggedAndTheValueHolds) {
     EXPECT_EQ(defaults.doubleForKey(key("x")), 1);
     ASSERT_TRUE(std::filesystem::is_fifo(file.toStdString()));
     std::filesystem::remove(file.toStdString());
-    defaults.setObject(key("y"), 2);
+    for (const int value : {3, 2})
+        defaults.setObject(key("y"), value);
     EXPECT_EQ(content(name), QByteArray("[General]\nx=1\ny=2\n"));
+    EXPECT_FALSE(QFile::exists(file + u".malformed-1"_qs)) << "a file of our own is not malformed";
 
     // A full disk keeps the old content.
     LMUserDefaults again = open();
