@@ -1,26 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "Utilities/LMBinaryRecord.h"
 
-#include <plist/plist.h>
+#include "Utilities/LMPropertyListPointers.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <memory>
 
 namespace {
 
 constexpr qsizetype largestArchive = 4096;
 constexpr quint64 longestShortName = 14;
-
-struct PropertyListDeleter {
-    void operator()(void* node) const { plist_free(node); }
-};
-struct AllocationDeleter {
-    void operator()(void* allocation) const { std::free(allocation); }
-};
-using PropertyListPointer = std::unique_ptr<void, PropertyListDeleter>;
-template <class T>
-using Allocation = std::unique_ptr<T, AllocationDeleter>;
 
 /// Reads the objects of a binary property list, version 00. The library that writes it gives up the
 /// whole process on some damaged ones, and unfolds containers that refer to each other many times.
@@ -116,14 +104,14 @@ std::optional<LMBinaryRecord> Reader::record() {
 } // namespace
 
 QByteArray LMArchivedRecord(const LMBinaryRecord& record) {
-    const PropertyListPointer dictionary(plist_new_dict());
+    const LMPropertyListNode dictionary(plist_new_dict());
     for (auto field = record.constBegin(); field != record.constEnd(); ++field)
         plist_dict_set_item(dictionary.get(), field.key().toUtf8().constData(),
                             plist_new_uint(field.value()));
     char* bytes = nullptr;
     std::uint32_t length = 0;
     plist_to_bin(dictionary.get(), &bytes, &length);
-    const Allocation<char> owner(bytes);
+    const LMPropertyListAllocation<char> owner(bytes);
     return {bytes, static_cast<qsizetype>(length)};
 }
 

@@ -2,29 +2,15 @@
 #include "Utilities/LMPropertyList.h"
 
 #include "Utilities/LMFormat.h"
+#include "Utilities/LMPropertyListPointers.h"
 
 #include <QFile>
 #include <QVariantMap>
-
-#include <plist/plist.h>
-
-#include <cstdlib>
-#include <memory>
 
 namespace {
 
 constexpr qint64 largestFile = 1'048'576;
 constexpr int deepestNesting = 32;
-
-struct PropertyListDeleter {
-    void operator()(void* node) const { plist_free(node); }
-};
-struct AllocationDeleter {
-    void operator()(void* allocation) const { std::free(allocation); }
-};
-using PropertyListPointer = std::unique_ptr<void, PropertyListDeleter>;
-template <class T>
-using Allocation = std::unique_ptr<T, AllocationDeleter>;
 
 class Converter {
 public:
@@ -72,7 +58,7 @@ QVariant Converter::convertArray(plist_t node, int depth) {
     QVariantList values;
     plist_array_iter iterator = nullptr;
     plist_array_new_iter(node, &iterator);
-    const Allocation<void> owner(iterator);
+    const LMPropertyListAllocation<void> owner(iterator);
     plist_t item = nullptr;
     while (plist_array_next_item(node, iterator, &item), item)
         values.append(convert(item, depth + 1));
@@ -83,12 +69,12 @@ QVariant Converter::convertDictionary(plist_t node, int depth) {
     QVariantMap values;
     plist_dict_iter iterator = nullptr;
     plist_dict_new_iter(node, &iterator);
-    const Allocation<void> owner(iterator);
+    const LMPropertyListAllocation<void> owner(iterator);
     for (;;) {
         char* key = nullptr;
         plist_t item = nullptr;
         plist_dict_next_item(node, iterator, &key, &item);
-        const Allocation<char> keyOwner(key);
+        const LMPropertyListAllocation<char> keyOwner(key);
         if (!item)
             return values;
         values.insert(QString::fromUtf8(key), convert(item, depth + 1));
@@ -123,7 +109,7 @@ QVariant Converter::convert(plist_t node, int depth) {
 std::optional<QVariant> parse(const QByteArray& bytes, QString& error) {
     plist_t root = nullptr;
     plist_from_xml(bytes.constData(), static_cast<std::uint32_t>(bytes.size()), &root);
-    const PropertyListPointer owner(root);
+    const LMPropertyListNode owner(root);
     if (!root) {
         error = QStringLiteral("not an XML property list");
         return std::nullopt;
