@@ -85,9 +85,13 @@ QList<LMElement> LMElementCopyWindows(LMAccessibility& accessibility, qint64 pro
 }
 
 LMElement LMElementCopyFocusedWindow(LMEnvironment& environment) {
-    const LMElement application = LMElementCreateActiveApplication(environment);
+    return LMElementCopyFocusedWindow(environment.desktop.accessibility(),
+                                      LMElementCreateActiveApplication(environment));
+}
+
+LMElement LMElementCopyFocusedWindow(LMAccessibility& accessibility, const LMElement& application) {
     return copyValueOrNone<LMElement>(
-        environment.desktop.accessibility(), application, LMAttribute::FocusedWindow,
+        accessibility, application, LMAttribute::FocusedWindow,
         QStringLiteral("Copy of focused window attribute value failed."));
 }
 

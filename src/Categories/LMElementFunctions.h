@@ -25,6 +25,8 @@ LMElement LMElementCreateActiveApplication(LMEnvironment& environment);
 QList<LMElement> LMElementCopyWindows(LMAccessibility& accessibility, qint64 processIdentifier);
 /// The focused window of the active application; null when it says that it has none.
 LMElement LMElementCopyFocusedWindow(LMEnvironment& environment);
+/// The same for the application of that element.
+LMElement LMElementCopyFocusedWindow(LMAccessibility& accessibility, const LMElement& application);
 
 // --- reading a window ------------------------------------------------------------------------
 QString LMElementCopyTitle(LMAccessibility& accessibility, const LMElement& element);

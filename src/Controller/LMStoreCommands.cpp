@@ -110,7 +110,7 @@ LMCommandResult LMStoreCommands::storeActiveWindow(bool overwrite, bool withConf
     LMCommandFrame frame(m_parts, LMLocalized("Storing the Active Window…"));
     m_parts.frontmostApplication.updateFrontmostApplication();
     const auto active = m_parts.frontmostApplication.frontmostApplication();
-    FocusedWindow focused = findFocusedWindow(active);
+    StorableWindow focused = findWindow(active, LMElement());
     if (!focused.window)
         return LMCommandResult::refused(focused.refusal);
 
@@ -122,10 +122,12 @@ LMCommandResult LMStoreCommands::storeActiveWindow(bool overwrite, bool withConf
             LMFormat(LMLocalized("The stored window labelled “%@” will be replaced with the active "
                                  "window."),
                      {identical->labelOrTitleIfNil()})};
+        // A save during the question drops live records: whoever was found before may be gone. And
+        // the focus is still where the question was.
+        const LMElement element = focused.window->element();
         if (const auto answer = askToReplace(question, withConfirmation))
             return *answer;
-        // A save during the question drops live records: whoever was found before may be gone.
-        focused = findFocusedWindow(active);
+        focused = findWindow(active, element);
         if (!focused.window)
             return LMCommandResult::refused(focused.refusal);
     }
@@ -136,8 +138,18 @@ LMCommandResult LMStoreCommands::storeActiveWindow(bool overwrite, bool withConf
     return frame.finish();
 }
 
-LMStoreCommands::FocusedWindow
-LMStoreCommands::findFocusedWindow(const std::optional<LMRunningApplication>& active) {
+LMWindow* LMStoreCommands::focusedWindow(const LMRunningApplication& active) const {
+    LMEnvironment& environment = m_parts.environment;
+    const auto inFront = LMWorkspaceAdditions(environment).runningApplication();
+    const bool isOwn = inFront && inFront->bundleIdentifier == environment.ownBundleIdentifier;
+    LMObjectContext& context = m_parts.store.managedObjectContext();
+    return isOwn ? LMWindow::focusedWindowOfProcess(context, active.processIdentifier)
+                 : LMWindow::focusedWindow(context);
+}
+
+LMStoreCommands::StorableWindow
+LMStoreCommands::findWindow(const std::optional<LMRunningApplication>& active,
+                            const LMElement& element) {
     LMWorkspace* workspace = m_parts.workspaceList.currentWorkspaceAddingIfNecessary();
     if (!workspace)
         return {nullptr, nullptr, LMRefusal::noCurrentWorkspace()};
@@ -145,7 +157,10 @@ LMStoreCommands::findFocusedWindow(const std::optional<LMRunningApplication>& ac
         return {nullptr, nullptr, LMRefusal::noActiveApplication()};
     LMApplication* application =
         workspace->applicationForBundleIdentifier(active->bundleIdentifier);
-    LMWindow* window = LMWindow::focusedWindow(m_parts.store.managedObjectContext());
+    LMWindow* window =
+        element.isNull()
+            ? focusedWindow(*active)
+            : LMWindow::windowWithElement(m_parts.store.managedObjectContext(), element);
     if (!window)
         return {nullptr, nullptr, LMRefusal::noFocusedWindow()};
     if (!application)

@@ -6,6 +6,7 @@
 class LMApplication;
 class LMWindow;
 class LMWorkspace;
+struct LMElement;
 struct LMSuppressibleAlert;
 
 /// The commands that remember windows. Each takes whether to replace what is stored without asking,
@@ -27,14 +28,19 @@ private:
     std::optional<LMCommandResult> askToReplace(const LMSuppressibleAlert& question,
                                                 bool withConfirmation);
     void reportSuccess(QLatin1String suppressionKey, const QString& text, bool withConfirmation);
-    /// The focused window and the application it is stored with (made when there is none yet), or
+    /// The focused window, none when nothing has the focus. While this program is in front, that
+    /// of the application the user worked in before.
+    LMWindow* focusedWindow(const LMRunningApplication& active) const;
+    /// The window to store and the application it is stored with (made when there is none yet), or
     /// why there is none.
-    struct FocusedWindow {
+    struct StorableWindow {
         LMApplication* application;
         LMWindow* window;
         QString refusal;
     };
-    FocusedWindow findFocusedWindow(const std::optional<LMRunningApplication>& active);
+    /// The focused window, or that of the element if there is one.
+    StorableWindow findWindow(const std::optional<LMRunningApplication>& active,
+                              const LMElement& element);
     LMApplication* addApplication(LMWorkspace& workspace, const LMRunningApplication& running);
 
     const LMCommandParts& m_parts;

@@ -65,6 +65,8 @@ public:
                                                    qint64 processIdentifier);
     /// The focused window of the active application, or none.
     static LMWindow* focusedWindow(LMObjectContext& context);
+    /// The focused window of one application: where it is not active, the one used last.
+    static LMWindow* focusedWindowOfProcess(LMObjectContext& context, qint64 processIdentifier);
 
     const LMElement& element() const { return m_element; }
     void setElement(const LMElement& element);

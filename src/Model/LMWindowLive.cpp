@@ -31,6 +31,20 @@ QString textOrEmpty(QString (*copyText)(LMAccessibility&, const LMElement&),
     }
 }
 
+/// The record of the window that the function names; none when it raises.
+template <class CopyWindow>
+LMWindow* recordOf(LMObjectContext& context, CopyWindow copyWindow) {
+    try {
+        const LMElement element = copyWindow();
+        if (element.isNull())
+            return nullptr;
+        const LMReadingScope reading(context.environment().desktop.accessibility(), {element});
+        return LMWindow::windowWithElement(context, element);
+    } catch (const LMAccessibilityException&) {
+        return nullptr;
+    }
+}
+
 } // namespace
 
 LMWindow* LMWindow::windowWithElement(LMObjectContext& context, const LMElement& element) {
@@ -79,16 +93,15 @@ std::vector<LMWindow*> LMWindow::windowsOfProcess(LMObjectContext& context,
 }
 
 LMWindow* LMWindow::focusedWindow(LMObjectContext& context) {
-    LMEnvironment& environment = context.environment();
-    try {
-        const LMElement element = LMElementCopyFocusedWindow(environment);
-        if (element.isNull())
-            return nullptr;
-        const LMReadingScope reading(environment.desktop.accessibility(), {element});
-        return windowWithElement(context, element);
-    } catch (const LMAccessibilityException&) {
-        return nullptr;
-    }
+    return recordOf(context, [&] { return LMElementCopyFocusedWindow(context.environment()); });
+}
+
+LMWindow* LMWindow::focusedWindowOfProcess(LMObjectContext& context, qint64 processIdentifier) {
+    return recordOf(context, [&] {
+        LMAccessibility& accessibility = context.environment().desktop.accessibility();
+        const LMElement application = LMElementCreateApplication(accessibility, processIdentifier);
+        return LMElementCopyFocusedWindow(accessibility, application);
+    });
 }
 
 bool LMWindow::isDesktopWindow() const {

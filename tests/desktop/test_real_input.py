@@ -18,7 +18,7 @@ from rig.scenario import frames, open_windows, scatter  # noqa: E402
 
 CONTROL_OPTION = 0x1000 | 0x800
 SETTINGS = {"RestoreAllWindowsHotKey": hot_key(15, CONTROL_OPTION), "StoreAllWindowsHotKey": hot_key(0, CONTROL_OPTION),
-            "ShowMenuHotKey": hot_key(46, CONTROL_OPTION)}
+            "StoreActiveWindowHotKey": hot_key(13, CONTROL_OPTION), "ShowMenuHotKey": hot_key(46, CONTROL_OPTION)}
 WINDOWS = (("xterm", "shell", Frame(60, 80, 520, 340)), ("featherpad", "notes.txt", Frame(2100, 310, 555, 444)))
 
 
@@ -63,6 +63,11 @@ class RealInput(unittest.TestCase):
         scatter(self.desktop, self.opened, 2)
         elsewhere, before = frames(self.desktop, self.opened), self.listed()
         working_in = self.probe.activate(self.opened[0].identifier).identifier
+        self.press("ctrl+alt+w")
+        for _ in ("replace", "success"):
+            self.answer("Return")
+        self.assertNotEqual(self.listed(), before, "the window the question was about was not stored")
+        before = self.listed()
         self.press("ctrl+alt+a")
         self.answer("Escape")
         self.assertEqual(self.listed(), before, "a cancelled question stored something")

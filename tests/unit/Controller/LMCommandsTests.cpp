@@ -49,7 +49,8 @@ TEST_F(ControllerTest, QuestionsDecide) {
     userInterface.answer = {};
     EXPECT_TRUE(commands.storeAllWindows(false, true).isDone);
     EXPECT_TRUE(commands.storeActiveApplicationWindows(false, true).isDone);
-    EXPECT_TRUE(commands.storeActiveWindow(false, true).isDone);
+    userInterface.duringModal = [this] { desktop.focus({}); };
+    EXPECT_TRUE(commands.storeActiveWindow(false, true).isDone) << "the alert has taken the focus";
     ASSERT_EQ(userInterface.alerts.size(), 7); // Four questions, three messages.
     EXPECT_EQ(userInterface.alerts[5],
               u"An identical stored window already exists. Do you want to replace it?|The stored "
@@ -95,6 +96,8 @@ TEST_F(ControllerTest, OwnWindowsInFrontKeepTheRecordedApplication) {
     const LMWorkspace* workspace = store.managedObjectContext().objects<LMWorkspace>().front();
     EXPECT_TRUE(workspace->storesApplication(u"org.editor"_s));
     EXPECT_FALSE(workspace->storesApplication(u"org.rook.Rook"_s));
+    ASSERT_TRUE(perform("SWin", Overwrite).isDone);
+    EXPECT_EQ(store.managedObjectContext().objects<LMStoredWindow>().size(), 2U);
 }
 
 } // namespace
