@@ -120,9 +120,10 @@ class WindowPicker(unittest.TestCase):
         self.probe.activate(self.focused)
         self.check_closed()
         self.open_picker()
-        self.server.set_layout("single")
-        self.check_closed()
-        self.server.set_layout("two")
+        for count, layout in enumerate(("single", "two"), 1):
+            self.server.set_layout(layout)
+            self.check_closed()
+            wait_until(lambda: self.rook.process.log.read_text().count("The displays have changed") == count, layout)
         with connection(self.server.display) as (x11, display):
             root = ctypes.c_ulong(x11.XDefaultRootWindow(display))
             self.assertEqual(x11.XGrabKeyboard(display, root, 0, 1, 1, ctypes.c_ulong(0)), 0)

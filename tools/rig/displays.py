@@ -64,7 +64,9 @@ def keyboard_is_free(display_name: str) -> bool:
     """Whether nobody holds a grab of the keyboard."""
     with connection(display_name) as (x11, display):
         root = ctypes.c_ulong(x11.XDefaultRootWindow(display))
-        return x11.XGrabKeyboard(display, root, 0, 1, 1, ctypes.c_ulong(0)) == 0  # closing ends it
+        is_free = x11.XGrabKeyboard(display, root, 0, 1, 1, ctypes.c_ulong(0)) == 0
+        x11.XUngrabKeyboard(display, ctypes.c_ulong(0))  # closing would, at some later moment
+        return is_free
 
 
 def set_edids(display_name: str, blobs: Mapping[str, bytes]) -> None:

@@ -93,7 +93,7 @@ TEST(PickerGeometry, ScreenshotsSitOnTheirMargin) {
 TEST(PickerGeometry, PartsOfACell) {
     EXPECT_EQ(LMPickerCell::screenshotArea({360, 440}), QRectF(8, 38, 344, 394));
     // No room for a label: the picture gets it all.
-    EXPECT_EQ(LMPickerCell::screenshotArea({43, 37}), QRectF(0, -20, 43, 57));
+    EXPECT_EQ(LMPickerCell::screenshotArea({43, 37}), QRectF(8, -12, 27, 41));
     const QRectF label = LMPickerCell::labelRect({20, 58, 200, 100}, {60, 15});
     EXPECT_EQ(label, QRectF(90, 28, 60, 15));
     EXPECT_EQ(LMPickerCell::labelFrame(label), QRectF(82, 26, 76, 19));
