@@ -14,7 +14,7 @@ constexpr double VerticalInset = 5;
 // In the cell.
 constexpr double LabelStrip = 30;
 constexpr double ScreenshotInset = 8;
-constexpr double SmallestPicture = 12;
+constexpr double LowestPicture = 40;
 // Around the label's text.
 constexpr double LabelMargin = 8;
 constexpr double LabelPaddingX = 8;
@@ -84,13 +84,13 @@ QSize LMCoveringSize(const QSizeF& pixels, double scale) {
 }
 
 QRectF LMPickerCell::screenshotArea(const QSizeF& cell) {
-    const QRectF area =
+    const QRectF inner =
         QRectF(QPointF(), cell)
-            .adjusted(0, LabelStrip, 0, 0)
             .adjusted(ScreenshotInset, ScreenshotInset, -ScreenshotInset, -ScreenshotInset);
-    if (area.height() - LMImageAdditions::FreeBottom >= SmallestPicture)
+    const QRectF area = inner.adjusted(0, LabelStrip, 0, 0);
+    if (area.height() - LMImageAdditions::FreeBottom >= LowestPicture)
         return area;
-    return QRectF(QPointF(), cell).adjusted(0, -LMImageAdditions::FreeBottom, 0, 0);
+    return inner.adjusted(0, -LMImageAdditions::FreeBottom, 0, 0);
 }
 
 double LMPickerCell::labelWidth(const QRectF& screenshotRect) {

@@ -43,8 +43,8 @@ QSize LMCoveringSize(const QSizeF& pixels, double scale);
 /// The parts of a cell, in the cell's coordinates.
 namespace LMPickerCell {
 
-/// The room for the screenshot. Where a cell is too small for a picture and a label, the picture
-/// gets it all.
+/// The room for the screenshot, above the label. In cells too low for a picture that tells anything
+/// and a label, the picture gets all of it.
 QRectF screenshotArea(const QSizeF& cell);
 /// How wide a label may be that stands below the screenshot.
 double labelWidth(const QRectF& screenshotRect);

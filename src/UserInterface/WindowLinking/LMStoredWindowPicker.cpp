@@ -137,10 +137,12 @@ void LMStoredWindowPicker::createBlankoutWindows() {
 
 // --- showing and hiding ---------------------------------------------------------------------
 
-std::vector<LMFullscreenWindow*> LMStoredWindowPicker::fullscreenWindows() const {
-    std::vector<LMFullscreenWindow*> windows{const_cast<LMFullscreenWindow*>(&m_window)};
+/// From the back to the front: at odd scales a window may overlap the next display by a pixel.
+std::vector<LMFullscreenWindow*> LMStoredWindowPicker::fullscreenWindows() {
+    std::vector<LMFullscreenWindow*> windows;
     for (const auto& window : m_blankoutWindows)
         windows.push_back(window.get());
+    windows.push_back(&m_window);
     return windows;
 }
 

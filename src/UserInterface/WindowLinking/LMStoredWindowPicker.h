@@ -70,7 +70,7 @@ private:
 
     void place();
     void createBlankoutWindows();
-    std::vector<LMFullscreenWindow*> fullscreenWindows() const;
+    std::vector<LMFullscreenWindow*> fullscreenWindows();
     void setAlpha(double alpha);
     void fadeTo(double alpha);
     void orderFront();

@@ -1,9 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "UserInterface/WindowLinking/LMStoredWindowPickerView.h"
 
+#include "UserInterface/LMPresentableText.h"
+
 #include <QAccessibleWidget>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QStringBuilder>
+#include <QToolTip>
 #include <QWindow>
 
 #include <utility>
@@ -100,6 +105,15 @@ void LMStoredWindowPickerView::highlight(LMStoredWindowPickerWindowView* windowV
         m_highlighted->setHighlighted(true);
 }
 
+/// In many small cells labels are cut beyond recognition.
+void LMStoredWindowPickerView::showWholeLabel(const QPoint& globalPlace) {
+    if (!m_highlighted || m_highlighted->isLabelWhole())
+        return;
+    const QString label = LMPresentableText(m_highlighted->storedWindow().label, 500, 1);
+    QToolTip::showText(globalPlace, u"<p>" % label.toHtmlEscaped() % u"</p>", this,
+                       m_highlighted->screenshotRectInParent().toAlignedRect());
+}
+
 void LMStoredWindowPickerView::enterEvent(QEnterEvent* event) {
     highlight(windowViewAt(event->position()));
 }
@@ -143,6 +157,9 @@ bool LMStoredWindowPickerView::event(QEvent* event) {
         return true;
     case QEvent::KeyPress:
         keyPressEvent(static_cast<QKeyEvent*>(event));
+        return true;
+    case QEvent::ToolTip:
+        showWholeLabel(static_cast<QHelpEvent*>(event)->globalPos());
         return true;
     default:
         return QWidget::event(event);

@@ -66,6 +66,7 @@ private:
     void setUpSubviews();
     LMStoredWindowPickerWindowView* windowViewAt(const QPointF& place) const;
     void highlight(LMStoredWindowPickerWindowView* windowView);
+    void showWholeLabel(const QPoint& globalPlace);
 
     QList<LMPickableWindow> m_windows;
     QRectF m_usableFrame;

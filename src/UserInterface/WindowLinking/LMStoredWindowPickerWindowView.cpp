@@ -89,6 +89,10 @@ void LMStoredWindowPickerWindowView::layOut(const QSizeF& screenshotSize) {
         m_screenshotRect, {metrics.horizontalAdvance(m_labelText), metrics.height()});
 }
 
+bool LMStoredWindowPickerWindowView::isLabelWhole() const {
+    return m_labelText == m_storedWindow.label && m_labelRect.y() >= 0;
+}
+
 void LMStoredWindowPickerWindowView::setScreenshot(const LMLoadedScreenshot& screenshot) {
     layOut(screenshot.size);
     m_screenshot = QPixmap::fromImage(screenshot.image);
@@ -125,8 +129,8 @@ void LMStoredWindowPickerWindowView::drawScreenshot(QPainter& painter) const {
 }
 
 void LMStoredWindowPickerWindowView::drawLabel(QPainter& painter) const {
-    if (m_labelText.isEmpty())
-        return;
+    if (m_labelText.size() < 2 && !isLabelWhole())
+        return; // An ellipsis alone says nothing.
     painter.setPen(QPen(grey(0.3F, 0.8F), 1));
     painter.setBrush(Qt::NoBrush);
     const QRectF frame = toolkitRect(LMPickerCell::labelFrame(m_labelRect));

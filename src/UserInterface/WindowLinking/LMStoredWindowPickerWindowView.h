@@ -43,6 +43,7 @@ public:
 
     /// The label as it is shown: one line, cut in the middle where it is too long.
     const QString& labelText() const { return m_labelText; }
+    bool isLabelWhole() const;
 
 Q_SIGNALS:
     /// Chosen by other means than the mouse.
