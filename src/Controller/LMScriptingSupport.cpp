@@ -21,7 +21,11 @@ LMScriptingSupport::performDefaultImplementation(const LMScriptCommand& command)
         return m_restoreCommands.restoreApplicationWindows(
             command.evaluatedArguments.value(QStringLiteral("Application")).toString());
 
-    m_frontmostApplication.updateFrontmostApplication();
+    // Storing all windows needs no active application, and without a file manager that always runs
+    // there is none on every empty virtual desktop.
+    if (!m_frontmostApplication.updateFrontmostApplication() &&
+        command.eventCode != LMFourCharCode("SAll"))
+        return std::nullopt;
     const bool overwrite = command.evaluatedArguments.value(QStringLiteral("Overwrite")).toBool();
     switch (command.eventCode) {
     case LMFourCharCode("RApp"):

@@ -40,7 +40,8 @@ public:
                        LMFrontmostApplication& frontmostApplication);
 
     /// The command's answer; none for another class or an unknown code. Which application is the
-    /// active one is settled before the command runs; "RAll" leaves that as it is.
+    /// active one is settled before the command runs; commands that need one have no answer either
+    /// when there is none. "RAll" and "RNam" leave that as it is.
     std::optional<LMCommandResult> performDefaultImplementation(const LMScriptCommand& command);
 
 private:
