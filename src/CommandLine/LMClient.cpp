@@ -7,9 +7,10 @@
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
 #include <QDBusReply>
 #include <QDBusServiceWatcher>
-#include <QDBusVariant>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
@@ -62,13 +63,13 @@ int LMClient::command(const LMInvocation& invocation) {
     const QDBusMessage reply = call(invocation);
     if (reply.type() != QDBusMessage::ReplyMessage)
         return failed(reply.errorMessage());
-    const QString refusal = lastRefusal();
+    const QString why = refusal();
     if (reply.arguments().value(0).toBool()) {
-        if (!refusal.isEmpty())
-            failed(refusal);
+        if (!why.isEmpty())
+            failed(why);
         return LMExitCode::Done;
     }
-    return failed(refusal.isEmpty() ? LMLocalized("the command could not run") : refusal);
+    return failed(why.isEmpty() ? LMLocalized("the command could not run") : why);
 }
 
 int LMClient::report(const LMInvocation& invocation) {
@@ -118,7 +119,7 @@ QDBusMessage LMClient::call(const LMInvocation& invocation) const {
     while (true) {
         const QDBusMessage reply = invocation.method == QLatin1String("Status")
                                        ? callNotingDelay(message)
-                                       : m_bus.call(message, QDBus::Block, NoTimeout);
+                                       : ask(message, NoTimeout);
         // Rook has its name before it has opened its store: it will serve in a moment.
         const bool isStarting =
             reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.UnknownObject");
@@ -130,12 +131,22 @@ QDBusMessage LMClient::call(const LMInvocation& invocation) const {
 
 // A process that is held by a script cannot answer, but it has left a note.
 QDBusMessage LMClient::callNotingDelay(const QDBusMessage& message) const {
-    const QDBusMessage reply = m_bus.call(message, QDBus::Block, NoticeableDelay);
+    const QDBusMessage reply = ask(message, NoticeableDelay);
     if (reply.errorName() != QLatin1String("org.freedesktop.DBus.Error.NoReply"))
         return reply;
     print(m_errors, LMFormat(LMLocalized("rook: Rook is busy and answers later. %@"),
                              {LMTables::printable(activity())}));
-    return m_bus.call(message, QDBus::Block, NoTimeout);
+    return ask(message, NoTimeout);
+}
+
+/// A call that blocks the event loop would never learn that the bus is gone.
+QDBusMessage LMClient::ask(const QDBusMessage& message, int milliseconds) const {
+    const QDBusPendingCallWatcher watcher(m_bus.asyncCall(message, milliseconds));
+    QEventLoop loop;
+    QObject::connect(&watcher, &QDBusPendingCallWatcher::finished, &loop, &QEventLoop::quit);
+    if (!watcher.isFinished())
+        loop.exec();
+    return watcher.reply();
 }
 
 QString LMClient::activity() const {
@@ -148,12 +159,10 @@ QString LMClient::activity() const {
     return LMTables::activity(current.last().toObject());
 }
 
-QString LMClient::lastRefusal() const {
-    QDBusMessage message = QDBusMessage::createMethodCall(
-        Service, Path, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
-    message.setArguments({QString(Interface), QStringLiteral("LastRefusal")});
-    const QDBusReply<QDBusVariant> reply = m_bus.call(message);
-    return reply.isValid() ? reply.value().variant().toString() : QString();
+QString LMClient::refusal() const {
+    const QDBusReply<QString> reply = m_bus.call(
+        QDBusMessage::createMethodCall(Service, Path, Interface, QStringLiteral("Refusal")));
+    return reply.value();
 }
 
 int LMClient::notRunning() const {

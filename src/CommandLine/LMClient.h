@@ -24,9 +24,10 @@ private:
 
     bool isResidentRunning() const;
     QDBusMessage call(const LMInvocation& invocation) const;
+    QDBusMessage ask(const QDBusMessage& message, int milliseconds) const;
     QDBusMessage callNotingDelay(const QDBusMessage& message) const;
     QString activity() const;
-    QString lastRefusal() const;
+    QString refusal() const;
     int notRunning() const;
     int failed(const QString& why) const;
     void print(std::FILE* stream, const QString& text) const;

@@ -14,7 +14,12 @@
 #include <QDBusError>
 #include <QJsonDocument>
 
+#include <algorithm>
+
 namespace {
+
+/// More callers than ask at the same time.
+constexpr qsizetype MostRefusals = 256;
 
 QString asText(const QJsonObject& report) {
     return QString::fromUtf8(QJsonDocument(report).toJson(QJsonDocument::Compact));
@@ -51,8 +56,10 @@ QString LMDBusService::version() const {
 
 bool LMDBusService::perform(quint32 eventCode, const QVariantMap& arguments) {
     const LMScriptCommand command{LMFourCharCode("Rook"), eventCode, arguments};
-    return answer(m_scriptingSupport.performDefaultImplementation(command).value_or(
-        LMCommandResult::refused(QString())));
+    if (const auto result = m_scriptingSupport.performDefaultImplementation(command))
+        return answer(*result);
+    return answer(LMRefusal::whileOccupied(m_parts).value_or(
+        LMCommandResult::refused(LMRefusal::noActiveApplication())));
 }
 
 bool LMDBusService::perform(LMMenuCommand command) {
@@ -63,7 +70,19 @@ bool LMDBusService::perform(LMMenuCommand command) {
 
 bool LMDBusService::answer(const LMCommandResult& result) {
     m_lastRefusal = result.refusal;
+    const QString caller = calledFromDBus() ? message().service() : QString();
+    m_refusals.removeIf([&](const auto& refusal) { return refusal.first == caller; });
+    if (!result.refusal.isEmpty())
+        m_refusals.append({caller, result.refusal});
+    if (m_refusals.size() > MostRefusals)
+        m_refusals.removeFirst();
     return result.isDone;
+}
+
+QString LMDBusService::Refusal() {
+    const QString caller = calledFromDBus() ? message().service() : QString();
+    const auto found = std::ranges::find(m_refusals, caller, &std::pair<QString, QString>::first);
+    return found == m_refusals.end() ? QString() : found->second;
 }
 
 bool LMDBusService::RestoreAll() {

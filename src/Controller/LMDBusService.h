@@ -5,7 +5,11 @@
 #include "Controller/LMScriptingSupport.h"
 
 #include <QDBusConnection>
+#include <QDBusContext>
+#include <QList>
 #include <QObject>
+
+#include <utility>
 
 class LMHotKeyCenter;
 class LMStatusItemController;
@@ -14,7 +18,7 @@ struct LMCommandParts;
 
 /// The session bus face of the resident process: service org.rook.Rook, object /org/rook/Rook,
 /// interface org.rook.Rook1. The generated adaptor calls the slots below.
-class LMDBusService : public QObject {
+class LMDBusService : public QObject, protected QDBusContext {
     Q_OBJECT
     Q_PROPERTY(QString LastRefusal READ lastRefusal)
     Q_PROPERTY(QString Version READ version)
@@ -48,6 +52,7 @@ public Q_SLOTS:
     bool ShowPreferences();
     bool ShowAbout();
     bool CheckForUpdates();
+    QString Refusal();
     QString Status();
     QString List();
     QString Windows();
@@ -73,4 +78,5 @@ private:
     const LMCommandParts& m_parts;
     QDBusConnection m_bus;
     QString m_lastRefusal;
+    QList<std::pair<QString, QString>> m_refusals; ///< By caller, of its latest command.
 };

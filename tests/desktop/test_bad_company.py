@@ -6,6 +6,7 @@ from __future__ import annotations
 import os
 import signal
 import sqlite3
+import subprocess
 import sys
 import time
 import unittest
@@ -132,6 +133,20 @@ class OtherPrograms(unittest.TestCase):
         process.popen.wait(20)
         self.assertIn("rook:", process.log_tail(30))
         self.assertEqual(self.rook.run("status").returncode, 3)
+
+    def test_the_session_bus_dies(self) -> None:
+        process = self.rook.process
+        assert process
+        process.signal(signal.SIGSTOP)
+        asking = subprocess.Popen([self.rook.binary, "status"], env=self.desktop.environment, stderr=subprocess.PIPE)
+        assert asking.stderr
+        self.assertIn(b"busy", asking.stderr.readline())
+        self.desktop.session.bus.stop()
+        asking.communicate(timeout=20)
+        self.assertEqual(asking.returncode, 1)
+        process.signal(signal.SIGCONT)
+        self.assertEqual(process.popen.wait(20), 1)
+        self.assertIn("The session bus is gone.", process.log_tail(30))
 
 
 class Processes(unittest.TestCase):

@@ -132,6 +132,10 @@ class Events(unittest.TestCase):
                                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL) for _ in range(100)]
         self.assertEqual({process.wait(60) for process in flood}, {0})
         self.open_and_store()
+        refused = [subprocess.Popen([self.rook.binary, "restore-app", f"org.{number}"], env=self.desktop.environment, text=True,
+                                    stderr=subprocess.PIPE) for number in range(10)]
+        for number, process in enumerate(refused):  # each caller gets its own reason
+            self.assertIn(f"“org.{number}”", process.communicate(timeout=60)[1])
 
     def test_the_end_of_the_session_is_saved(self) -> None:
         self.open_and_store()
