@@ -3,6 +3,7 @@
 #include "CommandLine/LMClient.h"
 #include "CommandLine/LMInvocation.h"
 #include "Controller/LMApplicationDelegate.h"
+#include "Controller/LMDesktopMessage.h"
 #include "Controller/LMUnixSignals.h"
 #include "LMExitGuard.h"
 #include "LMFrontEnd.h"
@@ -129,8 +130,14 @@ int runResident(LMFrontEnd& frontEnd, LMUnixSignals& signals, const LMInvocation
     QString reason;
     const auto desktop =
         LMCreateDesktop(backends(), QProcessEnvironment::systemEnvironment(), logger, &reason);
-    if (!desktop)
+    if (!desktop) {
+        // Whoever starts Rook from a menu sees no terminal.
+        constexpr int Milliseconds = 2000;
+        if (!invocation.isHeadless)
+            bus.call(LMDesktopMessage(LMLocalized("Rook cannot run here"), reason), QDBus::Block,
+                     Milliseconds);
         return complain(reason);
+    }
     return serve(frontEnd, *desktop, logger, signals, bus);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Controller/LMUpdateChecks.h"
 
+#include "Controller/LMDesktopMessage.h"
 #include "Controller/LMUserInterface.h"
 #include "Platform/LMEnvironment.h"
 #include "Platform/LMUpdater.h"
@@ -16,16 +17,9 @@
 
 namespace {
 
-/// Method Notify of org.freedesktop.Notifications. Nobody waits for the answer.
+/// Nobody waits for the answer.
 void showDesktopMessage(const QString& summary, const QString& body) {
-    QDBusMessage message = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.Notifications"),
-        QStringLiteral("/org/freedesktop/Notifications"),
-        QStringLiteral("org.freedesktop.Notifications"), QStringLiteral("Notify"));
-    constexpr int DefaultTimeout = -1;
-    message.setArguments({QStringLiteral("Rook"), 0U, QStringLiteral("org.rook.Rook"), summary,
-                          body.toHtmlEscaped(), QStringList(), QVariantMap(), DefaultTimeout});
-    QDBusConnection::sessionBus().send(message);
+    QDBusConnection::sessionBus().send(LMDesktopMessage(summary, body));
 }
 
 } // namespace
