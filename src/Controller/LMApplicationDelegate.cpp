@@ -18,7 +18,7 @@
 LMApplicationDelegate::LMApplicationDelegate(LMEnvironment& environment,
                                              LMStoredWindowsStore& store,
                                              LMUserInterface& userInterface)
-    : m_environment(environment), m_store(store), m_permissionCheck(environment),
+    : m_environment(environment), m_store(store), m_permissionCheck(environment, userInterface),
       m_workspaceList(store, m_permissionCheck),
       m_frontmostApplication(environment), m_parts{environment,     store,
                                                    userInterface,   m_permissionCheck,

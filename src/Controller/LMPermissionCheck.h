@@ -3,14 +3,18 @@
 
 #include <QString>
 
+class LMUserInterface;
 struct LMEnvironment;
 
 /// Whether windows of other applications can be read and moved now.
 class LMPermissionCheck {
 public:
-    explicit LMPermissionCheck(LMEnvironment& environment) : m_environment(environment) {}
+    /// Both outlive this object.
+    LMPermissionCheck(LMEnvironment& environment, LMUserInterface& userInterface)
+        : m_environment(environment), m_userInterface(userInterface) {}
 
-    /// Asks the desktop afresh. What is missing is logged when it differs from the last answer.
+    /// Asks the desktop afresh. What is missing is logged and shown to the user when it differs
+    /// from the last answer.
     bool checkAccessibilityEnabled();
 
     /// What was missing at the last check, as one line; empty when nothing was.
@@ -18,5 +22,6 @@ public:
 
 private:
     LMEnvironment& m_environment;
+    LMUserInterface& m_userInterface;
     QString m_missing;
 };

@@ -39,6 +39,10 @@ public:
     /// Brings this program to the front, whatever is active now.
     virtual void activateIgnoringOtherApplications() = 0;
 
+    /// Shows the one dialog that says what is missing for windows of other applications to be read
+    /// and moved. Does not wait for an answer. With nothing missing, the dialog goes away.
+    virtual void showPermissionPrompt(const QString& missing) = 0;
+
     /// Shows the status icon with the menu; the menu outlives the icon. Waits for a tray that is
     /// not there yet.
     virtual void showStatusItem(LMStatusMenu& menu) = 0;

@@ -17,6 +17,7 @@ public:
     LMAlertAnswer runModal(const LMAlert& alert) override;
     bool isModalWindowOpen() const override { return false; }
     void activateIgnoringOtherApplications() override {}
+    void showPermissionPrompt(const QString&) override {}
     void showStatusItem(LMStatusMenu&) override {}
     void removeStatusItem() override {}
     void displayMenuAtCursor(LMStatusMenu&) override {}

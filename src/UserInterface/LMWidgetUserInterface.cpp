@@ -15,7 +15,7 @@ LMWidgetUserInterface::LMWidgetUserInterface(LMEnvironment& environment,
                                              LMStoredWindowsStore& store,
                                              LMBundleInformation bundle, Look look)
     : m_environment(environment), m_store(store), m_look(look),
-      m_aboutWindowController(std::move(bundle)) {}
+      m_aboutWindowController(std::move(bundle)), m_permissionPrompt(environment.desktop) {}
 
 LMWidgetUserInterface::~LMWidgetUserInterface() = default;
 
@@ -48,6 +48,11 @@ bool LMWidgetUserInterface::isModalWindowOpen() const {
 void LMWidgetUserInterface::activateIgnoringOtherApplications() {
     // Without a window there is nothing to bring to the front, and nothing is lost by trying.
     m_environment.desktop.applications().activate(QCoreApplication::applicationPid());
+}
+
+void LMWidgetUserInterface::showPermissionPrompt(const QString& missing) {
+    followAppearance();
+    m_permissionPrompt.show(missing);
 }
 
 LMStatusMenuView& LMWidgetUserInterface::popUpMenu(LMStatusMenu& menu) {

@@ -4,6 +4,7 @@
 #include "Controller/LMUserInterface.h"
 #include "UserInterface/LMAboutWindowController.h"
 #include "UserInterface/LMDesktopAppearance.h"
+#include "UserInterface/LMPermissionPrompt.h"
 #include "UserInterface/LMProgressWindowController.h"
 
 #include <memory>
@@ -33,6 +34,7 @@ public:
     LMAlertAnswer runModal(const LMAlert& alert) override;
     bool isModalWindowOpen() const override;
     void activateIgnoringOtherApplications() override;
+    void showPermissionPrompt(const QString& missing) override;
 
     void showStatusItem(LMStatusMenu& menu) override;
     void removeStatusItem() override;
@@ -58,6 +60,7 @@ private:
     LMDesktopAppearance m_appearance;
     LMProgressWindowController m_progressWindowController;
     LMAboutWindowController m_aboutWindowController;
+    LMPermissionPrompt m_permissionPrompt;
     std::unique_ptr<LMStatusMenuView> m_popUpMenu;
     std::unique_ptr<LMStatusItem> m_statusItem; ///< Uses the menu above.
     std::unique_ptr<LMStoredWindowPicker> m_storedWindowPicker;

@@ -26,6 +26,9 @@ public:
     bool canShowWindows() const override { return showsWindows; }
     bool isModalWindowOpen() const override { return isModal; }
     void activateIgnoringOtherApplications() override {}
+    void showPermissionPrompt(const QString& missing) override {
+        calls.append(u"missing: "_s + missing);
+    }
     void showStatusItem(LMStatusMenu&) override { calls.append(u"icon"_s); }
     void removeStatusItem() override { calls.append(u"no icon"_s); }
     void displayMenuAtCursor(LMStatusMenu&) override { calls.append(u"menu"_s); }

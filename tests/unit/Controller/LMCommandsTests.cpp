@@ -87,6 +87,17 @@ TEST_F(ControllerTest, CommandsThatCannotRunSayWhy) {
     desktop.world().permission = {false, {u"No window manager."_s}};
     for (const char* code : {"RAll", "RApp", "SApp", "SWin", "SAll"})
         EXPECT_EQ(perform(code, Overwrite).refusal, u"No window manager."_s) << code;
+    desktop.world().permission = {true, {}};
+    EXPECT_TRUE(perform("RAll").isDone);
+    EXPECT_EQ(userInterface.calls, (QStringList{u"missing: No window manager."_s, u"missing: "_s}))
+        << "the user is told once";
+}
+
+TEST_F(ControllerTest, WithoutAnyActiveApplicationScriptsGetNoAnswer) {
+    desktop.focus({});
+    for (const char* code : {"RApp", "SApp", "SWin"})
+        EXPECT_EQ(perform(code, Overwrite).refusal, u"unknown"_s) << code;
+    EXPECT_TRUE(perform("SAll").isDone && perform("RAll").isDone) << "they need none";
 }
 
 TEST_F(ControllerTest, OwnWindowsInFrontKeepTheRecordedApplication) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "unit/UserInterface/UserInterfaceTest.h"
 #include "UserInterface/LMAlertWindow.h"
+#include "UserInterface/LMPermissionPrompt.h"
 #include "UserInterface/LMProgressIndicator.h"
 #include "UserInterface/LMProgressWindowController.h"
 #include "UserInterface/LMStatusMenuView.h"
@@ -58,6 +59,22 @@ TEST_F(Windows, AlertKeepsItsShapeWhateverItSays) {
         for (const QLabel* label : window.findChildren<QLabel*>())
             EXPECT_TRUE(label->textFormat() == Qt::PlainText || label->text().isEmpty());
     }
+}
+
+TEST_F(Windows, WhatIsMissingIsShownUnlessItOnlyCameLate) {
+    LMPermissionPrompt prompt(desktop, std::chrono::milliseconds(0));
+    const auto isShown = [&prompt] {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 100);
+        return prompt.window() != nullptr;
+    };
+    prompt.show(u"gone a moment ago"_s);
+    EXPECT_FALSE(isShown());
+    desktop.world().permission = {false, {u"No window manager."_s}};
+    prompt.show(u"No window manager."_s);
+    ASSERT_TRUE(wait(isShown));
+    EXPECT_TRUE(prompt.window()->isVisible() && !prompt.window()->isModal());
+    prompt.show({});
+    EXPECT_FALSE(isShown());
 }
 
 TEST_F(Windows, MenuShowsTheValueAndKeepsItsEntries) {
