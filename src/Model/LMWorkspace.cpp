@@ -8,6 +8,21 @@
 #include "Model/Store/LMEntityDescription.h"
 #include "Utilities/LMFormat.h"
 
+#include <algorithm>
+
+namespace {
+
+/// The order of the keys, in which members are loaded: it stays when one is brought back.
+template <class T>
+void insertByAge(std::vector<T*>& members, T* member) {
+    const auto isOlder = [](const T* a, const T* b) {
+        return a->objectID().key < b->objectID().key;
+    };
+    members.insert(std::upper_bound(members.begin(), members.end(), member, isOlder), member);
+}
+
+} // namespace
+
 QString LMWorkspace::entityName() {
     return QStringLiteral("Workspace");
 }
@@ -85,11 +100,11 @@ void LMWorkspace::removeMember(LMManagedObject* member) {
 
 void LMWorkspace::insertPrimitiveMember(LMManagedObject& member) {
     if (auto* application = dynamic_cast<LMApplication*>(&member))
-        m_applications.push_back(application);
+        insertByAge(m_applications, application);
     else if (auto* display = dynamic_cast<LMDisplay*>(&member))
-        m_displays.push_back(display);
+        insertByAge(m_displays, display);
     else if (auto* action = dynamic_cast<LMAction*>(&member))
-        m_actions.push_back(action);
+        insertByAge(m_actions, action);
 }
 
 void LMWorkspace::removePrimitiveMember(LMManagedObject& member) {

@@ -6,6 +6,8 @@
 
 #include <QString>
 
+#include <any>
+
 /// What a column of an entity's table holds.
 enum class LMAttributeType { String, Boolean, Integer, Number, StringList };
 
@@ -20,6 +22,9 @@ struct LMAttributeDescription {
     /// the member is as in a new object.
     bool (*load)(LMManagedObject& object, const LMStoreRow& row, int column) = nullptr;
     void (*save)(const LMManagedObject& object, LMStoreRowWriter& row, int column) = nullptr;
+    /// A copy of the member, for setValue of the same attribute, which reports no change.
+    std::any (*value)(const LMManagedObject& object) = nullptr;
+    void (*setValue)(LMManagedObject& object, const std::any& value) = nullptr;
 };
 
 namespace LMAttributeDetail {
@@ -65,11 +70,18 @@ template <auto Member>
 LMAttributeDescription LMDescribeAttribute(const QString& name) {
     using Object = typename LMAttributeDetail::MemberOf<decltype(Member)>::ObjectType;
     using Value = typename LMAttributeDetail::MemberOf<decltype(Member)>::ValueType;
-    return {name, LMAttributeDetail::TypeOf<Value>::value,
+    return {name,
+            LMAttributeDetail::TypeOf<Value>::value,
             [](LMManagedObject& object, const LMStoreRow& row, int column) {
                 return row.read(column, static_cast<Object&>(object).*Member);
             },
             [](const LMManagedObject& object, LMStoreRowWriter& row, int column) {
                 row.write(column, static_cast<const Object&>(object).*Member);
+            },
+            [](const LMManagedObject& object) -> std::any {
+                return static_cast<const Object&>(object).*Member;
+            },
+            [](LMManagedObject& object, const std::any& value) {
+                static_cast<Object&>(object).*Member = std::any_cast<const Value&>(value);
             }};
 }

@@ -92,7 +92,35 @@ LMManagedObject& LMObjectContext::addObject(const LMEntityDescription& entity, q
     object->m_entity = &entity;
     object->m_context = this;
     place.nextKey = std::max(place.nextKey, key + 1);
-    return *place.objects.emplace_back(std::move(object));
+    const auto after =
+        std::upper_bound(place.objects.begin(), place.objects.end(), key,
+                         [](qint64 k, const auto& other) { return k < other->m_objectID.key; });
+    return **place.objects.insert(after, std::move(object));
+}
+
+LMManagedObject* LMObjectContext::reinsertObjectWithID(const LMObjectID& id,
+                                                       LMManagedObject* owner) {
+    if (id.isNull() || id.entity >= m_entities.size() || id.key >= m_entities[id.entity].nextKey)
+        return nullptr;
+    LMManagedObject* object = objectWithKey(m_entities[id.entity], id.key);
+    if (!object) {
+        object = &addObject(m_model.entities()[id.entity], id.key);
+        object->m_isInserted = true;
+    } else if (object->m_isDeleted) {
+        // The save that would have freed it has failed or is still to come.
+        object->m_isDeleted = false;
+        std::erase(m_deleted, object);
+    }
+    noteChange(*object);
+    if (object->m_owner != owner)
+        detach(*object);
+    if (owner && !object->m_owner) {
+        owner->insertPrimitiveMember(*object);
+        LMManagedObject::setOwner(*object, owner);
+    }
+    if (!object->m_owner)
+        noteUnattached(*object);
+    return object;
 }
 
 void LMObjectContext::noteChange(LMManagedObject& object) {

@@ -42,6 +42,12 @@ public:
     /// Takes the object out of all relationships; what it owned becomes unattached.
     void deleteObject(LMManagedObject* object);
 
+    /// Brings an object back under the identifier it had before it was deleted, as a member of the
+    /// owner or of nothing; an object that still lives only becomes that member. Its values are for
+    /// the caller to fill in, and so are ordering lists. Null for an identifier that was never
+    /// given to an object.
+    LMManagedObject* reinsertObjectWithID(const LMObjectID& id, LMManagedObject* owner);
+
     /// All living objects of an entity, in the order of their keys.
     template <class T>
     std::vector<T*> objects() const {

@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+#include "Model/LMRemoval.h"
+
+#include "Model/LMAction.h"
+#include "Model/LMApplication.h"
+#include "Model/LMDisplay.h"
+#include "Model/LMStoredWindow.h"
+#include "Model/LMWorkspace.h"
+#include "Model/Store/LMObjectContext.h"
+
+#include <algorithm>
+
+bool LMDeleteWorkspaceIfEmpty(LMWorkspace& workspace) {
+    if (!workspace.applications().isEmpty() || !workspace.actions().isEmpty())
+        return false;
+    workspace.managedObjectContext().deleteObject(&workspace);
+    return true;
+}
+
+namespace {
+
+bool isDisplay(const LMManagedObject& object) {
+    return dynamic_cast<const LMDisplay*>(&object) != nullptr;
+}
+
+bool isNothing(const LMManagedObject&) {
+    return false;
+}
+
+} // namespace
+
+bool LMRemoval::perform() {
+    LMManagedObject* object = m_context.existingObjectWithID(m_what);
+    auto* window = dynamic_cast<LMStoredWindow*>(object);
+    LMApplication* application =
+        window ? window->application() : dynamic_cast<LMApplication*>(object);
+    auto* action = dynamic_cast<LMAction*>(object);
+    LMWorkspace* workspace = application ? application->workspace()
+                             : action    ? action->workspace()
+                                         : nullptr;
+    if (!workspace)
+        return false;
+
+    remember(*object, application);
+    if (window)
+        application->removeWindowsObject(window);
+    if (application && (!window || application->windows().isEmpty()))
+        workspace->removeApplicationsObject(application);
+    workspace->removeActionsObject(action);
+    LMDeleteWorkspaceIfEmpty(*workspace);
+    return true;
+}
+
+void LMRemoval::remember(const LMManagedObject& object, LMApplication* application) {
+    m_windows.clear();
+    if (!application) {
+        m_action.emplace(object);
+        m_workspace.emplace(*object.owner(), isDisplay);
+        return;
+    }
+    // The list is read first: reading takes out of it what no longer exists.
+    const std::vector<LMStoredWindow*> windows = application->orderedWindows();
+    for (std::size_t place = 0; place < windows.size(); ++place) {
+        if (&object == application || &object == windows[place])
+            m_windows.push_back({LMRecordSnapshot(*windows[place]), qsizetype(place)});
+    }
+    m_bundleIdentifier = application->bundleIdentifier();
+    m_application.emplace(*application, isNothing);
+    m_workspace.emplace(*application->workspace(), isDisplay);
+}
+
+LMApplication* LMRemoval::applicationToJoin(LMWorkspace& workspace) const {
+    auto* same = m_context.existingObjectWithID(m_application->root());
+    if (same && same->owner())
+        return static_cast<LMApplication*>(same);
+    if (auto* newer = workspace.applicationForBundleIdentifier(m_bundleIdentifier))
+        return newer;
+    return static_cast<LMApplication*>(m_application->restore(m_context, &workspace));
+}
+
+void LMRemoval::takeBack() {
+    if (!m_workspace)
+        return;
+    auto* workspace =
+        static_cast<LMWorkspace*>(m_context.existingObjectWithID(m_workspace->root()));
+    if (!workspace)
+        workspace = static_cast<LMWorkspace*>(m_workspace->restore(m_context, nullptr));
+    if (m_action) {
+        m_action->restore(m_context, workspace);
+        return;
+    }
+    LMApplication* application = applicationToJoin(*workspace);
+    QStringList ordering = application->windowsOrdering();
+    for (const Window& window : m_windows) {
+        const QString uri = window.record.restore(m_context, application)->uriRepresentation();
+        if (!ordering.contains(uri))
+            ordering.insert(std::min(window.place, ordering.size()), uri);
+    }
+    application->setWindowsOrdering(ordering);
+}

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Model/Store/LMRecordSnapshot.h"
+
+#include <optional>
+
+class LMApplication;
+class LMObjectContext;
+class LMWorkspace;
+
+/// Deletes a workspace without applications and actions. Answers whether it did.
+bool LMDeleteWorkspaceIfEmpty(LMWorkspace& workspace);
+
+/// The removal of an application, a stored window or an action from its workspace, which can be
+/// taken back however often the store was saved in between. Screenshots need no copies: nothing
+/// deletes their files before the program ends.
+class LMRemoval {
+public:
+    /// Does nothing yet. The context outlives the removal.
+    LMRemoval(LMObjectContext& context, const LMObjectID& what)
+        : m_context(context), m_what(what) {}
+
+    /// Removes it, then an application without stored windows, then a workspace without anything.
+    /// False when there was nothing to remove.
+    bool perform();
+
+    /// Puts back everything that perform took away, in its old place. What the user stored anew in
+    /// the meantime stays: windows of an application that has a new record join that one.
+    void takeBack();
+
+    /// The workspace from which it was removed; null before that.
+    LMObjectID workspace() const { return m_workspace ? m_workspace->root() : LMObjectID(); }
+
+private:
+    struct Window {
+        LMRecordSnapshot record;
+        qsizetype place; ///< In the application's ordering.
+    };
+
+    void remember(const LMManagedObject& object, LMApplication* application);
+    LMApplication* applicationToJoin(LMWorkspace& workspace) const;
+
+    LMObjectContext& m_context;
+    LMObjectID m_what;
+    std::optional<LMRecordSnapshot> m_workspace;   ///< With its displays.
+    std::optional<LMRecordSnapshot> m_application; ///< Without its windows.
+    std::optional<LMRecordSnapshot> m_action;
+    std::vector<Window> m_windows; ///< In their order.
+    QString m_bundleIdentifier;
+};
