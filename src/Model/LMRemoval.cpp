@@ -23,6 +23,13 @@ bool isDisplay(const LMManagedObject& object) {
     return dynamic_cast<const LMDisplay*>(&object) != nullptr;
 }
 
+QStringList boundsOfDisplays(const LMWorkspace& workspace) {
+    QStringList bounds;
+    for (const LMDisplay* display : workspace.displays())
+        bounds.append(display->displayBounds());
+    return bounds;
+}
+
 bool isNothing(const LMManagedObject&) {
     return false;
 }
@@ -52,10 +59,13 @@ bool LMRemoval::perform() {
 }
 
 void LMRemoval::remember(const LMManagedObject& object, LMApplication* application) {
+    const auto& workspace =
+        static_cast<const LMWorkspace&>(application ? *application->owner() : *object.owner());
+    m_workspace.emplace(workspace, isDisplay);
+    m_displayBounds = boundsOfDisplays(workspace);
     m_windows.clear();
     if (!application) {
         m_action.emplace(object);
-        m_workspace.emplace(*object.owner(), isDisplay);
         return;
     }
     // The list is read first: reading takes out of it what no longer exists.
@@ -66,7 +76,6 @@ void LMRemoval::remember(const LMManagedObject& object, LMApplication* applicati
     }
     m_bundleIdentifier = application->bundleIdentifier();
     m_application.emplace(*application, isNothing);
-    m_workspace.emplace(*application->workspace(), isDisplay);
 }
 
 LMApplication* LMRemoval::applicationToJoin(LMWorkspace& workspace) const {
@@ -78,16 +87,23 @@ LMApplication* LMRemoval::applicationToJoin(LMWorkspace& workspace) const {
     return static_cast<LMApplication*>(m_application->restore(m_context, &workspace));
 }
 
-void LMRemoval::takeBack() {
+LMWorkspace* LMRemoval::workspaceToJoin() const {
+    if (auto* same = m_context.existingObjectWithID(m_workspace->root()))
+        return static_cast<LMWorkspace*>(same);
+    for (LMWorkspace* newer : m_context.objects<LMWorkspace>()) {
+        if (LMDisplayBoundsAreEqual(boundsOfDisplays(*newer), m_displayBounds))
+            return newer;
+    }
+    return static_cast<LMWorkspace*>(m_workspace->restore(m_context, nullptr));
+}
+
+LMWorkspace* LMRemoval::takeBack() {
     if (!m_workspace)
-        return;
-    auto* workspace =
-        static_cast<LMWorkspace*>(m_context.existingObjectWithID(m_workspace->root()));
-    if (!workspace)
-        workspace = static_cast<LMWorkspace*>(m_workspace->restore(m_context, nullptr));
+        return nullptr;
+    LMWorkspace* workspace = workspaceToJoin();
     if (m_action) {
         m_action->restore(m_context, workspace);
-        return;
+        return workspace;
     }
     LMApplication* application = applicationToJoin(*workspace);
     QStringList ordering = application->windowsOrdering();
@@ -97,4 +113,5 @@ void LMRemoval::takeBack() {
             ordering.insert(std::min(window.place, ordering.size()), uri);
     }
     application->setWindowsOrdering(ordering);
+    return workspace;
 }

@@ -3,6 +3,8 @@
 
 #include "Model/Store/LMRecordSnapshot.h"
 
+#include <QStringList>
+
 #include <optional>
 
 class LMApplication;
@@ -25,12 +27,11 @@ public:
     /// False when there was nothing to remove.
     bool perform();
 
-    /// Puts back everything that perform took away, in its old place. What the user stored anew in
-    /// the meantime stays: windows of an application that has a new record join that one.
-    void takeBack();
-
-    /// The workspace from which it was removed; null before that.
-    LMObjectID workspace() const { return m_workspace ? m_workspace->root() : LMObjectID(); }
+    /// Puts back everything that perform took away, in its old place, and answers the workspace in
+    /// which it stands; none before perform. What the user stored anew in the meantime stays: when
+    /// there is a new record of the application, or a new workspace of the same displays, that is
+    /// the one to join.
+    LMWorkspace* takeBack();
 
 private:
     struct Window {
@@ -39,6 +40,7 @@ private:
     };
 
     void remember(const LMManagedObject& object, LMApplication* application);
+    LMWorkspace* workspaceToJoin() const;
     LMApplication* applicationToJoin(LMWorkspace& workspace) const;
 
     LMObjectContext& m_context;
@@ -48,4 +50,5 @@ private:
     std::optional<LMRecordSnapshot> m_action;
     std::vector<Window> m_windows; ///< In their order.
     QString m_bundleIdentifier;
+    QStringList m_displayBounds;
 };

@@ -94,8 +94,7 @@ TEST_F(Removals, AreTakenBackWholeAfterTheyWereSaved) {
             EXPECT_EQ(all<LMAction>().size(), row.actions) << row.what.toStdString();
         }
         while (!removals.empty()) {
-            removals.back().takeBack();
-            EXPECT_EQ(removals.back().workspace(), workspaceID);
+            EXPECT_EQ(removals.back().takeBack()->objectID(), workspaceID);
             removals.pop_back();
             store->saveWindows();
             EXPECT_EQ(contents(), before.takeLast());
@@ -106,18 +105,28 @@ TEST_F(Removals, AreTakenBackWholeAfterTheyWereSaved) {
     EXPECT_EQ(contents(), whole);
 }
 
-/// Storing all windows anew makes new records of the same applications.
+/// Storing all windows anew makes new records of the same applications, and a new workspace where
+/// there is none any more.
 TEST_F(Removals, JoinWhatWasStoredInTheMeantime) {
-    LMRemoval removal(context(), editor->objectID());
-    removal.perform();
-    store->saveWindows();
-    application(u"org.editor"_s, workspace)->addWindows({storedWindow(u"new"_s)});
-    removal.takeBack();
-    saveAndReopen();
-    LMWorkspace* reopened = all<LMWorkspace>().front();
-    EXPECT_EQ(reopened->applications().count(), 2U);
-    EXPECT_EQ(titles(reopened->applicationForBundleIdentifier(u"org.editor"_s)->orderedWindows()),
-              (QStringList{u"c"_s, u"a"_s, u"b"_s, u"new"_s}));
+    for (const bool isWorkspaceNew : {false, true}) {
+        editor = workspace->applicationForBundleIdentifier(u"org.editor"_s);
+        LMRemoval removal(context(), editor->objectID());
+        removal.perform();
+        if (isWorkspaceNew) {
+            context().deleteObject(workspace);
+            workspace = insert<LMWorkspace>();
+        }
+        application(u"org.editor"_s, workspace)->addWindows({storedWindow(u"new"_s)});
+        store->saveWindows();
+        EXPECT_EQ(removal.takeBack(), workspace);
+        store->saveWindows();
+        EXPECT_EQ(all<LMWorkspace>().size(), 1U);
+        EXPECT_EQ(workspace->applications().count(), isWorkspaceNew ? 1U : 2U);
+        editor = workspace->applicationForBundleIdentifier(u"org.editor"_s);
+        const QStringList back{u"c"_s, u"a"_s, u"b"_s, u"new"_s};
+        EXPECT_EQ(titles(editor->orderedWindows()),
+                  isWorkspaceNew ? back + QStringList{u"new"_s} : back);
+    }
 }
 
 TEST_F(Removals, NeverBringBackWhatNeverWas) {
