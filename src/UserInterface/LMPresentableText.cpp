@@ -5,6 +5,7 @@ namespace {
 
 constexpr qsizetype LongestWord = 20;
 constexpr qsizetype LongestLine = 500;
+constexpr int MostToolTipLines = 10;
 constexpr QChar Ellipsis(0x2026);
 constexpr QChar ZeroWidthSpace(0x200B);
 
@@ -69,4 +70,12 @@ QString LMPresentableLine(const QString& text) {
 
 QString LMEscapedAmpersands(const QString& line) {
     return QString(line).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+QString LMPresentableToolTip(const QString& text) {
+    if (text.isEmpty())
+        return {};
+    return QLatin1String("<p>") +
+           LMPresentableText(text, LongestLine, MostToolTipLines).toHtmlEscaped() +
+           QLatin1String("</p>");
 }

@@ -16,3 +16,6 @@ QString LMPresentableLine(const QString& text);
 
 /// A line as the text of a button or a menu entry, where a single ampersand marks a mnemonic.
 QString LMEscapedAmpersands(const QString& line);
+
+/// The same for a tool tip, which would take markup in it for its own; null for an empty text.
+QString LMPresentableToolTip(const QString& text);
