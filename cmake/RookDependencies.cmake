@@ -12,6 +12,7 @@ pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0)
 pkg_check_modules(XCB REQUIRED IMPORTED_TARGET
     xcb xcb-ewmh xcb-icccm xcb-randr xcb-res xcb-composite xcb-keysyms)
 if(ROOK_TESTS)
+    find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
     find_package(GTest REQUIRED)
 endif()
 if(ROOK_BENCHMARKS)

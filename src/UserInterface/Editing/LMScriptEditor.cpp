@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+#include "UserInterface/Editing/LMScriptEditor.h"
+
+#include "Model/LMAction.h"
+#include "Model/Store/LMObjectContext.h"
+#include "Platform/LMScriptHost.h"
+#include "Utilities/LMFormat.h"
+
+#include <QEvent>
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScopedValueRollback>
+#include <QStackedLayout>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace {
+
+constexpr int ShortestEditor = 4; // lines
+
+/// The text as it was set: what the widget itself hands out has plain blanks for fixed ones.
+QString plainText(const QPlainTextEdit& editor) {
+    QString text = editor.document()->toRawText();
+    return text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
+}
+
+/// The text as the widget keeps it.
+QString withPlainLineBreaks(QString text) {
+    text.replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    return text.replace(u'\r', u'\n')
+        .replace(QChar::ParagraphSeparator, u'\n')
+        .replace(QChar::LineSeparator, u'\n');
+}
+
+} // namespace
+
+LMScriptEditor::LMScriptEditor(LMObjectContext& context, LMScriptHost* scriptHost, QWidget* parent)
+    : QWidget(parent), m_context(context), m_scriptHost(scriptHost),
+      m_shellScriptEditor(makeTextView(LMLocalized("Shell script"))),
+      m_appleScriptEditor(makeTextView(LMLocalized("AppleScript"))),
+      m_placeholder(new QStackedLayout(this)) {
+    m_placeholder->setContentsMargins(0, 0, 0, 0);
+    m_placeholder->addWidget(m_shellScriptEditor);
+    m_placeholder->addWidget(makeAppleScriptView());
+    updateActionEditorView(nullptr);
+}
+
+QPlainTextEdit* LMScriptEditor::makeTextView(const QString& name) {
+    auto* editor = new QPlainTextEdit(this);
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPointSizeF(editor->font().pointSizeF());
+    editor->setFont(font);
+    editor->setLineWrapMode(QPlainTextEdit::NoWrap);
+    editor->setAccessibleName(name);
+    editor->setMinimumHeight(editor->fontMetrics().lineSpacing() * ShortestEditor);
+    editor->setTabStopDistance(editor->fontMetrics().horizontalAdvance(u' ') * 4);
+    // Source text reads from the left in every language.
+    editor->setLayoutDirection(Qt::LeftToRight);
+    editor->installEventFilter(this);
+    connect(editor, &QPlainTextEdit::textChanged, this, [this, editor] { textChanged(editor); });
+    return editor;
+}
+
+QWidget* LMScriptEditor::makeAppleScriptView() {
+    auto* view = new QWidget(this);
+    m_notice = new QLabel(view);
+    m_notice->setTextFormat(Qt::PlainText);
+    m_notice->setWordWrap(true);
+    m_notice->setText(m_scriptHost
+                          ? QString()
+                          : LMLocalized("This system cannot run AppleScripts. The text is kept."));
+    m_compileButton = new QPushButton(LMLocalized("Comp&ile"), view);
+    m_compileButton->setEnabled(m_scriptHost != nullptr);
+    connect(m_compileButton, &QPushButton::clicked, this, &LMScriptEditor::compile);
+    auto* row = new QHBoxLayout;
+    row->addWidget(m_notice, 1);
+    row->addWidget(m_compileButton);
+    auto* layout = new QVBoxLayout(view);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_appleScriptEditor, 1);
+    layout->addLayout(row);
+    return view;
+}
+
+QWidget* LMScriptEditor::currentActionEditorView() const {
+    return m_placeholder->currentWidget();
+}
+
+void LMScriptEditor::updateActionEditorView(const LMAction* action) {
+    const bool isAppleScript = action && action->runAs() == QLatin1String("AppleScript");
+    QPlainTextEdit* shown = isAppleScript ? m_appleScriptEditor : m_shellScriptEditor;
+    m_placeholder->setCurrentIndex(isAppleScript ? 1 : 0);
+    m_compileButton->setVisible(isAppleScript);
+    show(nullptr, isAppleScript ? m_shellScriptEditor : m_appleScriptEditor);
+    show(action, shown);
+    m_action = action ? action->objectID() : LMObjectID();
+}
+
+void LMScriptEditor::show(const LMAction* action, QPlainTextEdit* editor) {
+    const QScopedValueRollback loading(m_isLoading, true);
+    const QString text = action ? withPlainLineBreaks(action->script()) : QString();
+    const bool isSameAction = action && action->objectID() == m_action;
+    const int position = isSameAction ? editor->textCursor().position() : 0;
+    if (plainText(*editor) != text) {
+        editor->setPlainText(text);
+        QTextCursor cursor = editor->textCursor();
+        cursor.setPosition(std::min(position, int(text.size())));
+        editor->setTextCursor(cursor);
+    }
+    editor->setReadOnly(action == nullptr);
+    editor->setEnabled(action != nullptr);
+}
+
+void LMScriptEditor::textChanged(const QPlainTextEdit* editor) {
+    auto* action = static_cast<LMAction*>(m_context.existingObjectWithID(m_action));
+    if (m_isLoading || !action)
+        return;
+    action->setScript(plainText(*editor));
+    m_isChanged = true;
+    if (m_scriptHost && editor == m_appleScriptEditor)
+        m_notice->clear();
+}
+
+void LMScriptEditor::compile() {
+    m_notice->setText(m_scriptHost && m_scriptHost->canCompile(plainText(*m_appleScriptEditor))
+                          ? LMLocalized("The script compiles.")
+                          : LMLocalized("The script does not compile."));
+}
+
+bool LMScriptEditor::eventFilter(QObject* object, QEvent* event) {
+    if (event->type() == QEvent::FocusOut && std::exchange(m_isChanged, false))
+        Q_EMIT editingEnded();
+    return QWidget::eventFilter(object, event);
+}

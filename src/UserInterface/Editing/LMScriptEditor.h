@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Model/Store/LMObjectID.h"
+
+#include <QWidget>
+
+class LMAction;
+class LMObjectContext;
+class LMScriptHost;
+class QLabel;
+class QPlainTextEdit;
+class QPushButton;
+class QStackedLayout;
+
+/// The editor of one action's script. The text reaches the action with every change of it.
+class LMScriptEditor final : public QWidget {
+    Q_OBJECT
+public:
+    /// scriptHost: none where no AppleScript can be compiled. Both outlive the editor.
+    LMScriptEditor(LMObjectContext& context, LMScriptHost* scriptHost, QWidget* parent = nullptr);
+
+    /// Shows the script in the editor for its kind; without an action nothing can be typed. A text
+    /// that is shown already is left alone, and with it the cursor.
+    void updateActionEditorView(const LMAction* action);
+
+    QPlainTextEdit* shellScriptEditor() const { return m_shellScriptEditor; }
+    QPlainTextEdit* appleScriptEditor() const { return m_appleScriptEditor; }
+    QPushButton* appleScriptCompileButton() const { return m_compileButton; }
+    QWidget* currentActionEditorView() const;
+
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+Q_SIGNALS:
+    /// The keyboard has left a text that was changed.
+    void editingEnded();
+
+private:
+    QPlainTextEdit* makeTextView(const QString& name);
+    QWidget* makeAppleScriptView();
+    void show(const LMAction* action, QPlainTextEdit* editor);
+    void textChanged(const QPlainTextEdit* editor);
+    void compile();
+
+    LMObjectContext& m_context;
+    LMScriptHost* m_scriptHost;
+    LMObjectID m_action; ///< Whose script is shown.
+    bool m_isLoading = false;
+    bool m_isChanged = false;
+    QPlainTextEdit* m_shellScriptEditor;
+    QPlainTextEdit* m_appleScriptEditor;
+    QPushButton* m_compileButton = nullptr;
+    QLabel* m_notice = nullptr;
+    QStackedLayout* m_placeholder;
+};

@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: MIT
+#include "UserInterface/Editing/LMStoredWindowsEditorWindow.h"
+
+#include "Model/LMAction.h"
+#include "Model/LMApplication.h"
+#include "Model/LMStoredWindow.h"
+#include "Model/LMWindow.h"
+#include "Model/LMWorkspace.h"
+#include "Model/Store/LMObjectContext.h"
+#include "UserInterface/Editing/LMActionsModel.h"
+#include "UserInterface/Editing/LMApplicationsModel.h"
+#include "UserInterface/Editing/LMScreenshotView.h"
+#include "UserInterface/Editing/LMScriptEditor.h"
+#include "UserInterface/Editing/LMStoredWindowsModel.h"
+#include "UserInterface/Editing/LMTableView.h"
+#include "UserInterface/LMPresentableText.h"
+#include "Utilities/LMFormat.h"
+
+#include <QCloseEvent>
+#include <QPushButton>
+
+namespace {
+
+/// Longer than a held arrow key takes from one row to the next.
+constexpr int ScreenshotDelay = 80; // milliseconds
+
+template <class T>
+T* objectWithID(const LMObjectContext& context, const LMObjectID& id) {
+    return dynamic_cast<T*>(context.existingObjectWithID(id));
+}
+
+} // namespace
+
+// Parts that go while the keyboard is in them still tell of it.
+LMStoredWindowsEditorWindow::~LMStoredWindowsEditorWindow() {
+    for (QObject* part : findChildren<QObject*>())
+        part->disconnect(this);
+}
+
+void LMStoredWindowsEditorWindow::reload(LMWorkspace* workspace) {
+    m_hasWorkspace = workspace != nullptr;
+    setWindowTitle(workspace ? LMPresentableLine(workspace->name())
+                             : LMLocalized("Stored Windows"));
+    m_applications->setWorkspace(workspace);
+    m_applicationsTableView->selectSomething();
+    showWindowsOfApplication();
+    m_actions->setWorkspace(workspace);
+    m_actionsTableView->selectSomething();
+    showScript();
+    showScreenshotSoon();
+    updateButtons();
+}
+
+void LMStoredWindowsEditorWindow::commitEditing() {
+    for (LMTableView* table : {m_applicationsTableView, m_windowsTableView, m_actionsTableView})
+        table->commitEditing();
+}
+
+void LMStoredWindowsEditorWindow::reveal(const LMObjectID& record) {
+    if (const auto* window = objectWithID<LMStoredWindow>(m_context, record))
+        m_applicationsTableView->select(window->application()->objectID());
+    for (LMTableView* table : {m_applicationsTableView, m_windowsTableView, m_actionsTableView})
+        table->select(record);
+}
+
+void LMStoredWindowsEditorWindow::editLabelOfAction(const LMObjectID& action) {
+    m_actionsTableView->select(action);
+    const qsizetype row = m_actions->records().indexOf(action);
+    const QModelIndex cell = m_actions->index(int(row), LMActionsModel::Label);
+    if (!cell.isValid())
+        return;
+    m_actionsTableView->setFocus();
+    m_actionsTableView->setCurrentIndex(cell);
+    m_actionsTableView->edit(cell);
+}
+
+// --- what follows from a selection
+// ----------------------------------------------------------------
+
+void LMStoredWindowsEditorWindow::showWindowsOfApplication() {
+    m_windows->setApplication(
+        objectWithID<LMApplication>(m_context, m_applicationsTableView->selectedRecord()));
+    m_windowsTableView->selectSomething();
+    updateButtons();
+}
+
+void LMStoredWindowsEditorWindow::showScript() {
+    m_scriptEditor->updateActionEditorView(
+        objectWithID<LMAction>(m_context, m_actionsTableView->selectedRecord()));
+    updateButtons();
+}
+
+void LMStoredWindowsEditorWindow::showScreenshotSoon() {
+    m_screenshotTimer.start(ScreenshotDelay);
+}
+
+// A picture is read when the selection rests on its window, and not again before it changes.
+void LMStoredWindowsEditorWindow::showScreenshot() {
+    auto* window = objectWithID<LMStoredWindow>(m_context, m_windowsTableView->selectedRecord());
+    const std::vector<LMWindow*> snapshots =
+        window ? window->orderedMatchingWindows() : std::vector<LMWindow*>();
+    const LMWindow* first = snapshots.empty() ? nullptr : snapshots.front();
+    const QString shown =
+        first ? first->uriRepresentation() + u' ' + first->screenshotFilename() : QString();
+    if (std::exchange(m_shownScreenshot, shown) == shown)
+        return;
+    m_screenshotView->setImage(first ? first->screenshot() : QImage());
+}
+
+void LMStoredWindowsEditorWindow::updateButtons() {
+    const bool hasWindow = !m_windowsTableView->selectedRecord().isNull();
+    const bool hasAction = !m_actionsTableView->selectedRecord().isNull();
+    m_removeApplicationButton->setEnabled(!m_applicationsTableView->selectedRecord().isNull());
+    m_removeWindowButton->setEnabled(hasWindow);
+    const int row = m_windowsTableView->currentIndex().row();
+    m_moveUpButton->setEnabled(hasWindow && row > 0);
+    m_moveDownButton->setEnabled(hasWindow && row + 1 < m_windows->rowCount());
+    m_addActionButton->setEnabled(m_hasWorkspace);
+    m_removeActionButton->setEnabled(hasAction);
+    m_runButton->setEnabled(hasAction);
+}
+
+void LMStoredWindowsEditorWindow::moveSelectedWindow(int rows) {
+    const qsizetype row = m_windows->records().indexOf(m_windowsTableView->selectedRecord());
+    if (row >= 0)
+        m_windows->moveRow(int(row), int(row) + (rows > 0 ? rows + 1 : rows));
+}
+
+void LMStoredWindowsEditorWindow::closeEvent(QCloseEvent* event) {
+    event->accept();
+    Q_EMIT closing();
+}

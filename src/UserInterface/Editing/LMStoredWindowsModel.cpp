@@ -1,0 +1,122 @@
+// SPDX-License-Identifier: MIT
+#include "UserInterface/Editing/LMStoredWindowsModel.h"
+
+#include "Model/LMApplication.h"
+#include "Model/LMStoredWindow.h"
+#include "UserInterface/LMPresentableText.h"
+#include "Utilities/LMFormat.h"
+
+#include <QMimeData>
+
+namespace {
+
+/// Carries the row; it never leaves the table.
+constexpr QLatin1String RowFormat{"application/x-rook-stored-window-row"};
+
+QString frameText(const QRectF& frame) {
+    const auto number = [](qreal value) { return QString::number(value); };
+    return LMFormat(
+        LMLocalized("%@ × %@ at %@, %@"),
+        {number(frame.width()), number(frame.height()), number(frame.x()), number(frame.y())});
+}
+
+} // namespace
+
+LMStoredWindowsModel::LMStoredWindowsModel(LMObjectContext& context, QObject* parent)
+    : LMRecordTableModel(context,
+                         {LMLocalized("Label"), LMLocalized("Title"), LMLocalized("Title Pattern"),
+                          LMLocalized("Frame")},
+                         parent) {}
+
+void LMStoredWindowsModel::setApplication(LMApplication* application) {
+    setRecords(application ? LMIdentifiersOfObjects(application->orderedWindows())
+                           : QList<LMObjectID>());
+}
+
+const LMStoredWindowsModel::Row& LMStoredWindowsModel::row(const QModelIndex& index) const {
+    const auto known = m_rows.constFind(recordAt(index.row()));
+    if (known != m_rows.constEnd())
+        return *known;
+    Row& row = m_rows[recordAt(index.row())];
+    if (auto* window = record<LMStoredWindow>(index)) {
+        row.texts[Label] = LMPresentableLine(window->label());
+        row.texts[Title] = LMPresentableLine(window->title());
+        row.texts[Pattern] = LMPresentableLine(window->titleRegularExpression());
+        row.texts[Frame] = frameText(window->frame());
+    }
+    return row;
+}
+
+QVariant LMStoredWindowsModel::data(const QModelIndex& index, int role) const {
+    const int column = index.column();
+    if (role == Qt::DisplayRole)
+        return row(index).texts[column];
+    if (role == Qt::ToolTipRole && column != Frame)
+        return LMPresentableToolTip(row(index).texts[column]);
+    if (role == Qt::EditRole) {
+        const auto* window = record<LMStoredWindow>(index);
+        return !window             ? QVariant()
+               : column == Label   ? QVariant(window->label())
+               : column == Pattern ? QVariant(window->titleRegularExpression())
+                                   : QVariant(row(index).texts[column]);
+    }
+    return {};
+}
+
+bool LMStoredWindowsModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    auto* window = record<LMStoredWindow>(index);
+    if (!window || role != Qt::EditRole)
+        return false;
+    if (index.column() == Label)
+        window->setLabel(value.toString());
+    else if (index.column() == Pattern)
+        window->setTitleRegularExpression(value.toString());
+    m_rows.remove(window->objectID());
+    Q_EMIT dataChanged(index, index);
+    return true;
+}
+
+Qt::ItemFlags LMStoredWindowsModel::flags(const QModelIndex& index) const {
+    // Between rows only: nothing is dropped onto a window.
+    if (!index.isValid())
+        return Qt::ItemIsDropEnabled;
+    const Qt::ItemFlags flags =
+        Qt::ItemIsSelectable | Qt::ItemIsEnabled | Qt::ItemIsDragEnabled | Qt::ItemNeverHasChildren;
+    const bool isEditable = index.column() == Label || index.column() == Pattern;
+    return isEditable ? flags | Qt::ItemIsEditable : flags;
+}
+
+// --- moving
+// ---------------------------------------------------------------------------------------
+
+QStringList LMStoredWindowsModel::mimeTypes() const {
+    return {RowFormat};
+}
+
+QMimeData* LMStoredWindowsModel::mimeData(const QModelIndexList& indexes) const {
+    auto* data = new QMimeData;
+    if (!indexes.isEmpty())
+        data->setData(RowFormat, QByteArray::number(indexes.front().row()));
+    return data;
+}
+
+bool LMStoredWindowsModel::canDropMimeData(const QMimeData* data, Qt::DropAction action, int row,
+                                           int, const QModelIndex& parent) const {
+    return data->hasFormat(RowFormat) && action == Qt::MoveAction && row >= 0 && !parent.isValid();
+}
+
+bool LMStoredWindowsModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int row,
+                                        int column, const QModelIndex& parent) {
+    if (canDropMimeData(data, action, row, column, parent))
+        moveRow(data->data(RowFormat).toInt(), row);
+    return false;
+}
+
+void LMStoredWindowsModel::moveRow(int row, int before) {
+    if (row < 0 || row >= rowCount() || before < 0 || before > rowCount() || before == row ||
+        before == row + 1)
+        return;
+    QList<LMObjectID> order = records();
+    order.move(row, before > row ? before - 1 : before);
+    Q_EMIT orderRequested(order);
+}

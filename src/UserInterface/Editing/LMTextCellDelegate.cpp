@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#include "UserInterface/Editing/LMTextCellDelegate.h"
+
+#include <QLineEdit>
+#include <QStyle>
+
+namespace {
+/// The default would cut long texts when they are shown.
+constexpr int LongestText = 10'000'000;
+} // namespace
+
+QWidget* LMTextCellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
+                                          const QModelIndex& index) const {
+    auto* editor = new QLineEdit(parent);
+    editor->setMaxLength(LongestText);
+    editor->setAutoFillBackground(true);
+    editor->setAccessibleName(
+        index.model()->headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString());
+    return editor;
+}
+
+void LMTextCellDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
+    auto* line = static_cast<QLineEdit*>(editor);
+    const QString text = index.data(Qt::EditRole).toString();
+    if (!line->isModified() && line->text() != text)
+        line->setText(text);
+}
+
+void LMTextCellDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
+                                      const QModelIndex& index) const {
+    const auto* line = static_cast<QLineEdit*>(editor);
+    if (line->isModified())
+        model->setData(index, line->text(), Qt::EditRole);
+}
+
+void LMTextCellDelegate::initStyleOption(QStyleOptionViewItem* option,
+                                         const QModelIndex& index) const {
+    QStyledItemDelegate::initStyleOption(option, index);
+    // Where there is more than text the direction orders the parts, too.
+    if (option->features &
+        (QStyleOptionViewItem::HasDecoration | QStyleOptionViewItem::HasCheckIndicator))
+        return;
+    option->displayAlignment =
+        QStyle::visualAlignment(option->direction, option->displayAlignment) | Qt::AlignAbsolute;
+    option->direction = option->text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
+}
