@@ -8,9 +8,8 @@
 
 LMPermissionPrompt::LMPermissionPrompt(LMDesktop& desktop, std::chrono::milliseconds patience)
     : m_desktop(desktop) {
-    m_patience.setSingleShot(true);
     m_patience.setInterval(patience);
-    QObject::connect(&m_patience, &QTimer::timeout, &m_patience, [this] { open(); });
+    QObject::connect(&m_patience, &QTimer::timeout, &m_patience, [this] { look(); });
 }
 
 LMPermissionPrompt::~LMPermissionPrompt() = default;
@@ -26,19 +25,26 @@ void LMPermissionPrompt::show(const QString& missing) {
         m_patience.start();
 }
 
-void LMPermissionPrompt::open() {
+void LMPermissionPrompt::look() {
     const LMPermission permission = m_desktop.checkPermission();
     if (permission.isTrusted)
-        return;
+        show({});
+    else if (!m_window)
+        open(permission.missing);
+}
+
+void LMPermissionPrompt::open(const QStringList& missing) {
     m_window = std::make_unique<LMAlertWindow>(
         LMAlert{LMLocalized("Rook cannot move windows on this desktop."),
                 LMFormat(LMLocalized("%@\n\nUntil that changes, windows are neither stored nor "
                                      "restored."),
-                         {permission.missing.join(QLatin1Char('\n'))}),
+                         {missing.join(QLatin1Char('\n'))}),
                 {}});
     m_window->setModal(false);
-    QObject::connect(m_window.get(), &QDialog::finished, m_window.get(),
-                     [this] { m_window.release()->deleteLater(); });
+    QObject::connect(m_window.get(), &QDialog::finished, m_window.get(), [this] {
+        m_patience.stop();
+        m_window.release()->deleteLater();
+    });
     m_window->adjustSize();
     LMCentreWindow(*m_window);
     LMBringToFront(*m_window, m_desktop);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QStringList>
 #include <QTimer>
 
 #include <chrono>
@@ -8,7 +9,6 @@
 
 class LMAlertWindow;
 class LMDesktop;
-class QString;
 class QWidget;
 
 /// The dialog that says why windows of other applications cannot be moved. There is one at most,
@@ -22,15 +22,16 @@ public:
     ~LMPermissionPrompt();
     Q_DISABLE_COPY_MOVE(LMPermissionPrompt)
 
-    /// Shows the dialog if something is still missing after a while. With nothing missing, takes it
-    /// away.
+    /// Shows the dialog if something is still missing after a while, until the user closes it or
+    /// nothing is missing any more. With nothing missing, takes it away at once.
     void show(const QString& missing);
 
     /// Null while it is not shown.
     const QWidget* window() const;
 
 private:
-    void open();
+    void look();
+    void open(const QStringList& missing);
 
     LMDesktop& m_desktop;
     QTimer m_patience;
