@@ -26,7 +26,9 @@ LMCommandResult LMWindowCommands::linkActiveWindow() {
     LMWorkspace* workspace = m_parts.workspaceList.currentWorkspaceAddingIfNecessary();
     if (!workspace)
         return LMCommandResult::refused(LMRefusal::noCurrentWorkspace());
-    LMWindow* window = LMWindow::focusedWindow(m_parts.store.managedObjectContext());
+    LMObjectContext& context = m_parts.store.managedObjectContext();
+    const LMTransientScope transients(context); // The picker keeps what it needs of the record.
+    LMWindow* window = LMWindow::focusedWindow(context);
     if (!window) {
         userInterface.closeStoredWindowPicker();
         return LMCommandResult::refused(LMRefusal::noFocusedWindow());
