@@ -32,7 +32,7 @@ QString geometry(const QJsonValue& frame) {
 
 QString joined(const QJsonValue& array) {
     QStringList items;
-    for (const QJsonValue& item : array.toArray())
+    for (const auto& item : array.toArray())
         items.append(item.toString());
     return LMTables::printable(items.join(QLatin1Char(' ')), CellLength);
 }
@@ -44,7 +44,7 @@ QString yesOrNo(bool answer) {
 QString displaysTable(const QJsonArray& displays) {
     QList<QStringList> rows{{LMLocalized("DISPLAY"), LMLocalized("BOUNDS"), LMLocalized("PRODUCT"),
                              LMLocalized("MAIN")}};
-    for (const QJsonValue& display : displays)
+    for (const auto& display : displays)
         rows.append({cell(display[u"connector"]), geometry(display[u"bounds"]),
                      cell(display[u"product"]), yesOrNo(display[u"main"].toBool())});
     return LMTables::table(rows);
@@ -76,7 +76,7 @@ QString statusText(const QJsonObject& report) {
         names.append(item.key() + (item->toBool() ? QString() : LMLocalized(" (no)")));
     add(LMLocalized("Capabilities"), names.join(QStringLiteral(", ")));
     add(LMLocalized("Permission"), yesOrNo(report[u"permission"][u"trusted"].toBool()));
-    for (const QJsonValue& missing : report[u"permission"][u"missing"].toArray())
+    for (const auto& missing : report[u"permission"][u"missing"].toArray())
         add(LMLocalized("Missing"), LMTables::printable(missing.toString()));
     const QJsonValue current = report[u"currentWorkspace"];
     add(LMLocalized("Current workspace"), current.isString() ? cell(current) : LMLocalized("none"));
@@ -84,10 +84,10 @@ QString statusText(const QJsonObject& report) {
         LMFormat(LMLocalized("%@ workspaces, %@ applications, %@ windows"),
                  {number(counts[u"workspaces"]), number(counts[u"applications"]),
                   number(counts[u"storedWindows"])}));
-    for (const QJsonValue& hotKey : report[u"hotKeys"].toArray())
+    for (const auto& hotKey : report[u"hotKeys"].toArray())
         if (hotKey[u"state"].toString() != u"empty")
             add(LMLocalized("Hot key"), hotKeyText(hotKey));
-    for (const QJsonValue& entry : report[u"activity"][u"current"].toArray())
+    for (const auto& entry : report[u"activity"][u"current"].toArray())
         add(LMLocalized("Doing"), LMTables::activity(entry.toObject()));
     const QJsonArray recent = report[u"activity"][u"recent"].toArray();
     for (qsizetype i = 0; i < std::min<qsizetype>(recent.size(), 3); ++i)
@@ -98,11 +98,11 @@ QString statusText(const QJsonObject& report) {
 QString listText(const QJsonObject& report) {
     QList<QStringList> rows{{LMLocalized("WORKSPACE"), LMLocalized("APPLICATION"),
                              LMLocalized("WINDOW"), LMLocalized("FRAME"), LMLocalized("PATTERN")}};
-    for (const QJsonValue& workspace : report[u"workspaces"].toArray()) {
+    for (const auto& workspace : report[u"workspaces"].toArray()) {
         const QString name = cell(workspace[u"name"]) +
                              (workspace[u"current"].toBool() ? QStringLiteral(" *") : QString());
-        for (const QJsonValue& application : workspace[u"applications"].toArray())
-            for (const QJsonValue& window : application[u"windows"].toArray())
+        for (const auto& application : workspace[u"applications"].toArray())
+            for (const auto& window : application[u"windows"].toArray())
                 rows.append({name, cell(application[u"identifier"]), cell(window[u"name"]),
                              geometry(window[u"frame"]), cell(window[u"pattern"])});
         if (workspace[u"applications"].toArray().isEmpty())
@@ -115,8 +115,8 @@ QString windowsText(const QJsonObject& report) {
     QList<QStringList> rows{{LMLocalized("APPLICATION"), LMLocalized("TITLE"),
                              LMLocalized("SUBROLE"), LMLocalized("CHILD ROLES"),
                              LMLocalized("FRAME"), LMLocalized("FLAGS")}};
-    for (const QJsonValue& application : report[u"applications"].toArray()) {
-        for (const QJsonValue& window : application[u"windows"].toArray()) {
+    for (const auto& application : report[u"applications"].toArray()) {
+        for (const auto& window : application[u"windows"].toArray()) {
             QStringList flags;
             for (const char16_t* flag : {u"toolbarButton", u"growArea", u"document"})
                 if (window[QStringView(flag)].toBool())
@@ -133,16 +133,16 @@ QString planText(const QJsonObject& report) {
     QList<QStringList> rows{{LMLocalized("APPLICATION"), LMLocalized("WINDOW"),
                              LMLocalized("STORED WINDOW"), LMLocalized("SCORE"), LMLocalized("WHY"),
                              LMLocalized("FROM"), LMLocalized("TO")}};
-    for (const QJsonValue& application : report[u"applications"].toArray()) {
+    for (const auto& application : report[u"applications"].toArray()) {
         const QString name = cell(application[u"identifier"]);
-        for (const QJsonValue& window : application[u"windows"].toArray()) {
+        for (const auto& window : application[u"windows"].toArray()) {
             const bool isMatched = window[u"storedWindow"].isString();
             rows.append({name, cell(window[u"title"]),
                          isMatched ? cell(window[u"storedWindow"]) : LMLocalized("none: stays"),
                          number(window[u"score"]), joined(window[u"reasons"]),
                          geometry(window[u"from"]), geometry(window[u"to"])});
         }
-        for (const QJsonValue& stored : application[u"unmatched"].toArray())
+        for (const auto& stored : application[u"unmatched"].toArray())
             rows.append({name,
                          LMLocalized("none: not open"),
                          cell(stored[u"name"]),
