@@ -164,7 +164,7 @@ void LMStoredWindowPicker::showWindow() {
     place();
     // An open menu of ours would let the keyboard go when it closes.
     while (QWidget* popUp = QApplication::activePopupWidget())
-        popUp->close();
+        popUp->hide();
     if (!m_window.isVisible())
         orderFront();
     if (m_alpha < 1)

@@ -69,6 +69,7 @@ void LMStoredWindowPickerView::resizeEvent(QResizeEvent*) {
 void LMStoredWindowPickerView::setUpSubviews() {
     m_highlighted = nullptr;
     m_loader.cancel();
+    QToolTip::hideText();
     qDeleteAll(std::exchange(m_windowViews, {}));
     const QList<QRectF> frames = windowFrames();
     for (qsizetype index = 0; index < frames.size(); ++index) {
