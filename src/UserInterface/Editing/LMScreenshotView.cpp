@@ -6,19 +6,19 @@
 #include <QPainter>
 
 namespace {
+
 constexpr int Margin = 6;
-}
+/// Longer than a held arrow key takes from one row to the next.
+constexpr int Delay = 80; // milliseconds
+
+} // namespace
 
 LMScreenshotView::LMScreenshotView(QWidget* parent) : QFrame(parent) {
     setFrameStyle(StyledPanel | Sunken);
     setAccessibleName(LMLocalized("Picture of the stored window"));
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
-}
-
-void LMScreenshotView::setImage(const QImage& image) {
-    m_image = image;
-    m_scaled = QPixmap();
-    update();
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &LMScreenshotView::load);
 }
 
 QSize LMScreenshotView::sizeHint() const {
@@ -29,20 +29,42 @@ QSize LMScreenshotView::minimumSizeHint() const {
     return {120, 90};
 }
 
+QRect LMScreenshotView::area() const {
+    return contentsRect().adjusted(Margin, Margin, -Margin, -Margin);
+}
+
+void LMScreenshotView::showScreenshot(const QString& path) {
+    if (path == m_path && path.isNull() == m_path.isNull())
+        return;
+    m_path = path;
+    m_timer.start(Delay);
+}
+
+void LMScreenshotView::load() {
+    m_loader.cancel();
+    if (m_path.isNull() || area().isEmpty()) {
+        m_image = QImage();
+        update();
+        return;
+    }
+    m_loader.load(m_path, QRectF(area()), devicePixelRatioF(),
+                  [this](const LMLoadedScreenshot& screenshot) {
+                      m_image = screenshot.image;
+                      m_image.setDevicePixelRatio(devicePixelRatioF());
+                      update();
+                  });
+}
+
+void LMScreenshotView::resizeEvent(QResizeEvent* event) {
+    QFrame::resizeEvent(event);
+    m_timer.start(Delay);
+}
+
 void LMScreenshotView::paintEvent(QPaintEvent* event) {
     QFrame::paintEvent(event);
-    const QRect area = contentsRect().adjusted(Margin, Margin, -Margin, -Margin);
-    if (m_image.isNull() || area.isEmpty())
+    if (m_image.isNull())
         return;
-    const qreal ratio = devicePixelRatioF();
-    const QSize fitting = m_image.size().scaled(area.size() * ratio, Qt::KeepAspectRatio);
-    const QSize pixels = fitting.boundedTo(m_image.size()).expandedTo(QSize(1, 1));
-    if (m_scaled.size() != pixels) {
-        m_scaled = QPixmap::fromImage(
-            m_image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-        m_scaled.setDevicePixelRatio(ratio);
-    }
-    QRectF shown(QPointF(), QSizeF(pixels) / ratio);
-    shown.moveCenter(QRectF(area).center());
-    QPainter(this).drawPixmap(shown.topLeft(), m_scaled);
+    QRectF shown(QPointF(), m_image.deviceIndependentSize());
+    shown.moveCenter(QRectF(area()).center());
+    QPainter(this).drawImage(shown.topLeft(), m_image);
 }

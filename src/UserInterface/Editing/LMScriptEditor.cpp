@@ -9,6 +9,7 @@
 #include <QEvent>
 #include <QFontDatabase>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -56,6 +57,7 @@ QPlainTextEdit* LMScriptEditor::makeTextView(const QString& name) {
     editor->setFont(font);
     editor->setLineWrapMode(QPlainTextEdit::NoWrap);
     editor->setAccessibleName(name);
+    editor->setAccessibleDescription(LMLocalized("Shift+Tab and Ctrl+Tab leave the text"));
     editor->setMinimumHeight(editor->fontMetrics().lineSpacing() * ShortestEditor);
     editor->setTabStopDistance(editor->fontMetrics().horizontalAdvance(u' ') * 4);
     // Source text reads from the left in every language.
@@ -131,7 +133,14 @@ void LMScriptEditor::compile() {
                           : LMLocalized("The script does not compile."));
 }
 
+// The tabulator belongs to the text, so others lead out of it.
 bool LMScriptEditor::eventFilter(QObject* object, QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        const bool isBack = key->key() == Qt::Key_Backtab;
+        if (isBack || (key->key() == Qt::Key_Tab && key->modifiers() == Qt::ControlModifier))
+            return focusNextPrevChild(!isBack);
+    }
     if (event->type() == QEvent::FocusOut && std::exchange(m_isChanged, false))
         Q_EMIT editingEnded();
     return QWidget::eventFilter(object, event);

@@ -59,13 +59,13 @@ QSplitter* makeSplitter(Qt::Orientation orientation, QList<QWidget*> panes, QLis
         std::reverse(panes.begin(), panes.end());
         std::reverse(sizes.begin(), sizes.end());
         splitter->setLayoutDirection(Qt::LeftToRight);
+        for (QWidget* pane : panes)
+            pane->setLayoutDirection(Qt::RightToLeft);
     }
     splitter->setChildrenCollapsible(false);
     splitter->setHandleWidth(Margin);
-    for (QWidget* pane : panes) {
-        pane->setLayoutDirection(QGuiApplication::layoutDirection());
+    for (QWidget* pane : panes)
         splitter->addWidget(pane);
-    }
     splitter->setSizes(sizes);
     for (int index = 0; index < sizes.size(); ++index)
         splitter->setStretchFactor(index, sizes[index]);
@@ -84,9 +84,6 @@ LMStoredWindowsEditorWindow::LMStoredWindowsEditorWindow(LMEnvironment& environm
     setObjectName(QStringLiteral("storedWindowsEditor"));
     setWindowRole(objectName());
     resize(DefaultSize);
-    m_screenshotTimer.setSingleShot(true);
-    connect(&m_screenshotTimer, &QTimer::timeout, this,
-            &LMStoredWindowsEditorWindow::showScreenshot);
     makeTables();
     makeButtons(undoStack);
     makeLayout();
@@ -131,7 +128,7 @@ void LMStoredWindowsEditorWindow::makeTables() {
     connect(m_applicationsTableView, &LMTableView::selectedRecordChanged, this,
             &LMStoredWindowsEditorWindow::showWindowsOfApplication);
     connect(m_windowsTableView, &LMTableView::selectedRecordChanged, this, [this] {
-        showScreenshotSoon();
+        showScreenshot();
         updateButtons();
     });
     connect(m_actionsTableView, &LMTableView::selectedRecordChanged, this,
@@ -154,8 +151,10 @@ void LMStoredWindowsEditorWindow::connectTable(LMTableView* table) {
 
 // --- buttons ------------------------------------------------------------------------------------
 
-QPushButton* LMStoredWindowsEditorWindow::makeRemoveButton(const char* text, LMTableView* table) {
+QPushButton* LMStoredWindowsEditorWindow::makeRemoveButton(const char* text, const char* name,
+                                                           LMTableView* table) {
     auto* button = new QPushButton(LMLocalized(text), this);
+    button->setAccessibleName(LMLocalized(name));
     connect(button, &QPushButton::clicked, this, [this, table] { Q_EMIT removeRequested(table); });
     return button;
 }
@@ -172,13 +171,15 @@ QPushButton* LMStoredWindowsEditorWindow::makeMoveButton(const char* text, Qt::K
 }
 
 void LMStoredWindowsEditorWindow::makeButtons(QUndoStack& undoStack) {
-    m_removeApplicationButton = makeRemoveButton("&Remove", m_applicationsTableView);
-    m_removeWindowButton = makeRemoveButton("R&emove", m_windowsTableView);
-    m_removeActionButton = makeRemoveButton("Re&move", m_actionsTableView);
+    m_removeApplicationButton =
+        makeRemoveButton("&Remove", "Remove Application", m_applicationsTableView);
+    m_removeWindowButton = makeRemoveButton("R&emove", "Remove Window", m_windowsTableView);
+    m_removeActionButton = makeRemoveButton("Re&move", "Remove Action", m_actionsTableView);
     m_moveUpButton = makeMoveButton("Move &Up", Qt::Key_Up, -1);
     m_moveDownButton = makeMoveButton("Move &Down", Qt::Key_Down, 1);
 
     m_addActionButton = new QPushButton(LMLocalized("&Add"), this);
+    m_addActionButton->setAccessibleName(LMLocalized("Add Action"));
     auto* menu = new QMenu(m_addActionButton);
     const auto add = [this, menu](const QString& text, int tag) {
         connect(menu->addAction(text), &QAction::triggered, this,
@@ -191,6 +192,7 @@ void LMStoredWindowsEditorWindow::makeButtons(QUndoStack& undoStack) {
     m_addActionButton->setMenu(menu);
 
     m_runButton = new QPushButton(LMLocalized("Ru&n"), this);
+    m_runButton->setAccessibleName(LMLocalized("Run Action"));
     m_runButton->setToolTip(LMLocalized("Runs the action now and waits until it has ended"));
     connect(m_runButton, &QPushButton::clicked, this,
             &LMStoredWindowsEditorWindow::runActionRequested);

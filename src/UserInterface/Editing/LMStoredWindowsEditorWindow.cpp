@@ -21,9 +21,6 @@
 
 namespace {
 
-/// Longer than a held arrow key takes from one row to the next.
-constexpr int ScreenshotDelay = 80; // milliseconds
-
 template <class T>
 T* objectWithID(const LMObjectContext& context, const LMObjectID& id) {
     return dynamic_cast<T*>(context.existingObjectWithID(id));
@@ -47,7 +44,7 @@ void LMStoredWindowsEditorWindow::reload(LMWorkspace* workspace) {
     m_actions->setWorkspace(workspace);
     m_actionsTableView->selectSomething();
     showScript();
-    showScreenshotSoon();
+    showScreenshot();
     updateButtons();
 }
 
@@ -90,21 +87,14 @@ void LMStoredWindowsEditorWindow::showScript() {
     updateButtons();
 }
 
-void LMStoredWindowsEditorWindow::showScreenshotSoon() {
-    m_screenshotTimer.start(ScreenshotDelay);
-}
-
-// A picture is read when the selection rests on its window, and not again before it changes.
 void LMStoredWindowsEditorWindow::showScreenshot() {
     auto* window = objectWithID<LMStoredWindow>(m_context, m_windowsTableView->selectedRecord());
     const std::vector<LMWindow*> snapshots =
         window ? window->orderedMatchingWindows() : std::vector<LMWindow*>();
-    const LMWindow* first = snapshots.empty() ? nullptr : snapshots.front();
-    const QString shown =
-        first ? first->uriRepresentation() + u' ' + first->screenshotFilename() : QString();
-    if (std::exchange(m_shownScreenshot, shown) == shown)
-        return;
-    m_screenshotView->setImage(first ? first->screenshot() : QImage());
+    const QString path = snapshots.empty() ? QString() : snapshots.front()->screenshotPath();
+    // A window that was never pictured has the default picture; no window has none.
+    m_screenshotView->showScreenshot(!snapshots.empty() && path.isNull() ? QStringLiteral("")
+                                                                         : path);
 }
 
 void LMStoredWindowsEditorWindow::updateButtons() {

@@ -3,7 +3,6 @@
 
 #include "Model/Store/LMObjectID.h"
 
-#include <QTimer>
 #include <QWidget>
 
 class LMActionsModel;
@@ -66,12 +65,11 @@ private:
     QWidget* makeWindowsPane();
     QWidget* makeActionsPane();
     QWidget* makeScriptPane();
-    QPushButton* makeRemoveButton(const char* text, LMTableView* table);
+    QPushButton* makeRemoveButton(const char* text, const char* name, LMTableView* table);
     QPushButton* makeMoveButton(const char* text, Qt::Key key, int rows);
     void connectTable(LMTableView* table);
 
     void showWindowsOfApplication();
-    void showScreenshotSoon();
     void showScreenshot();
     void showScript();
     void updateButtons();
@@ -94,7 +92,5 @@ private:
     QPushButton* m_removeActionButton = nullptr;
     QPushButton* m_runButton = nullptr;
     QPushButton* m_undoButton = nullptr;
-    QTimer m_screenshotTimer;
-    QString m_shownScreenshot; ///< Its file's name, and whose it is.
     bool m_hasWorkspace = false;
 };

@@ -10,8 +10,8 @@
 
 namespace {
 
-/// Carries the row; it never leaves the table.
-constexpr QLatin1String RowFormat{"application/x-rook-stored-window-row"};
+/// Carries the window's key: rows may come and go while one is dragged.
+constexpr QLatin1String WindowFormat{"application/x-rook-stored-window"};
 
 QString frameText(const QRectF& frame) {
     const auto number = [](qreal value) { return QString::number(value); };
@@ -90,25 +90,32 @@ Qt::ItemFlags LMStoredWindowsModel::flags(const QModelIndex& index) const {
 // ---------------------------------------------------------------------------------------
 
 QStringList LMStoredWindowsModel::mimeTypes() const {
-    return {RowFormat};
+    return {WindowFormat};
 }
 
 QMimeData* LMStoredWindowsModel::mimeData(const QModelIndexList& indexes) const {
     auto* data = new QMimeData;
     if (!indexes.isEmpty())
-        data->setData(RowFormat, QByteArray::number(indexes.front().row()));
+        data->setData(WindowFormat, QByteArray::number(recordAt(indexes.front().row()).key));
     return data;
 }
 
-bool LMStoredWindowsModel::canDropMimeData(const QMimeData* data, Qt::DropAction action, int row,
-                                           int, const QModelIndex& parent) const {
-    return data->hasFormat(RowFormat) && action == Qt::MoveAction && row >= 0 && !parent.isValid();
+bool LMStoredWindowsModel::canDropMimeData(const QMimeData* data, Qt::DropAction action, int, int,
+                                           const QModelIndex& parent) const {
+    return data->hasFormat(WindowFormat) && action == Qt::MoveAction && !parent.isValid();
 }
 
 bool LMStoredWindowsModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int row,
                                         int column, const QModelIndex& parent) {
-    if (canDropMimeData(data, action, row, column, parent))
-        moveRow(data->data(RowFormat).toInt(), row);
+    if (!canDropMimeData(data, action, row, column, parent))
+        return false;
+    const qint64 key = data->data(WindowFormat).toLongLong();
+    for (int dragged = 0; dragged < rowCount(); ++dragged) {
+        if (recordAt(dragged).key == key) {
+            moveRow(dragged, row < 0 ? rowCount() : row); // Below all of them.
+            break;
+        }
+    }
     return false;
 }
 

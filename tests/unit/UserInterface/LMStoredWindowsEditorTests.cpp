@@ -280,6 +280,8 @@ TEST_F(StoredWindowsEditor, AddsActionsAndWritesTheirScriptsAsTheyAreTyped) {
     QTest::keyClicks(&script(), u"echo\u00a0hi"_s);
     EXPECT_EQ(written[0]->script(), u"beep"_s);
     EXPECT_EQ(written[1]->script(), u"#!/bin/bash\n\necho\u00a0hi"_s);
+    QTest::keyClick(&script(), Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_FALSE(script().hasFocus());
     select(actions(), 2);
     EXPECT_FALSE(context.hasChanges()) << "leaving the script ends its editing";
     EXPECT_EQ(script().toPlainText(), QString());
