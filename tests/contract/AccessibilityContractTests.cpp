@@ -13,14 +13,12 @@ const QList<QLatin1String> windowAttributes{
     LMAttribute::Document, LMAttribute::Modal};
 
 /// What reads answered, so that two answers can be compared.
-QList<std::pair<LMAttributeValue, int>> answers(LMAccessibility& accessibility,
-                                                const QList<LMElement>& windows) {
-    QList<std::pair<LMAttributeValue, int>> result;
+auto answers(LMAccessibility& accessibility, const QList<LMElement>& windows) {
+    QList<std::pair<LMAttributeValue, std::optional<LMPlatformError>>> result;
     for (const LMElement& window : windows) {
         for (const QLatin1String attribute : windowAttributes) {
             const auto value = accessibility.copyAttributeValue(window, attribute);
-            result.append(value ? std::pair(*value, -1)
-                                : std::pair(LMAttributeValue(), int(value.error())));
+            result.append({value.valueOr({}), LMErrorOf(value)});
         }
     }
     return result;
@@ -34,19 +32,18 @@ TEST_P(AccessibilityContract, WindowsAreListedFrontToBackWithMinimizedOnes) {
     const LMElement first = open({.title = u"1"_qs});
     const LMElement second = open({.title = u"2"_qs});
     const LMElement other = open({.application = u"second"_qs});
-    backend->raise(first);
-    EXPECT_TRUE(LMWaitUntil([&] { return windows() == QList({first, second}); }));
-    backend->raise(second);
-    EXPECT_TRUE(LMWaitUntil([&] { return windows() == QList({second, first}); }));
+    for (const auto& order : {QList({first, second}), QList({second, first})}) {
+        backend->raise(order.first());
+        EXPECT_TRUE(LMWaitUntil([&] { return windows() == order; }));
+    }
     EXPECT_EQ(windows(u"second"_qs), QList({other}));
 
     backend->minimize(second);
-    EXPECT_TRUE(backend->isMinimized(second));
     EXPECT_EQ(windows().size(), 2);
     EXPECT_TRUE(windows().contains(second));
 }
 
-TEST_P(AccessibilityContract, WindowAttributesHaveTheirTypes) {
+TEST_P(AccessibilityContract, AttributesHaveTheirTypesAndArraysTheirRanges) {
     const QString title = u"Grüße — \u202eשלום 🙂"_qs;
     const LMElement window = open({.title = title});
     EXPECT_EQ(text(window, LMAttribute::Title), title);
@@ -63,25 +60,16 @@ TEST_P(AccessibilityContract, WindowAttributesHaveTheirTypes) {
     EXPECT_EQ(text(dialog, LMAttribute::Subrole), u"AXDialog"_qs);
     EXPECT_TRUE(read<bool>(dialog, LMAttribute::Modal));
     EXPECT_EQ(text(open({.kind = Kind::Utility}), LMAttribute::Subrole), u"AXFloatingWindow"_qs);
-}
 
-TEST_P(AccessibilityContract, ArraysAreCountedAndReadInRanges) {
-    const LMElement window = open();
     const auto children = read<QList<LMElement>>(window, LMAttribute::Children);
-    const auto count = accessibility().attributeValueCount(window, LMAttribute::Children);
-    ASSERT_TRUE(count);
-    ASSERT_EQ(*count, children.size());
-    for (const auto& [index, size] : {std::pair(0, *count), {1, 1}, {0, 0}, {1, 1000}, {1000, 1}}) {
-        const auto range =
-            accessibility().copyAttributeValues(window, LMAttribute::Children, index, size);
-        ASSERT_TRUE(range);
-        EXPECT_EQ(*range, children.mid(index, size));
-    }
+    EXPECT_EQ(*accessibility().attributeValueCount(window, LMAttribute::Children), children.size());
+    for (const auto& [index, size] : {std::pair(0, 2), {1, 1}, {0, 0}, {1, 1000}, {1000, 1}})
+        EXPECT_EQ(*accessibility().copyAttributeValues(window, LMAttribute::Children, index, size),
+                  children.mid(index, size));
     for (const LMElement& child : children)
         EXPECT_FALSE(text(child, LMAttribute::Role).isEmpty());
-    const auto ofText = accessibility().attributeValueCount(window, LMAttribute::Title);
-    ASSERT_FALSE(ofText);
-    EXPECT_EQ(ofText.error(), LMPlatformError::AttributeUnsupported);
+    EXPECT_EQ(LMErrorOf(accessibility().attributeValueCount(window, LMAttribute::Title)),
+              LMPlatformError::AttributeUnsupported);
 }
 
 TEST_P(AccessibilityContract, OnlyPositionAndSizeCanBeSet) {
@@ -93,7 +81,6 @@ TEST_P(AccessibilityContract, OnlyPositionAndSizeCanBeSet) {
         EXPECT_FALSE(set(window, attribute, u"value"_qs)) << attribute.data();
     }
     EXPECT_FALSE(set(window, LMAttribute::Size, QPointF(1, 1)));
-    EXPECT_FALSE(set(window, LMAttribute::Size, std::monostate()));
     EXPECT_EQ(frame(window), before);
 
     const LMElement fixed = open({.isResizable = false});
@@ -115,56 +102,45 @@ TEST_P(AccessibilityContract, WhatIsGoneIsAnInvalidElement) {
     open();
     backend->closeWindow(window);
     ASSERT_TRUE(LMWaitUntil([&] { return !windows().contains(window); }));
-    const auto application = accessibility().createApplication(0x7ffffff0);
-    ASSERT_TRUE(application);
-    EXPECT_EQ(readError(*application, LMAttribute::Windows), LMPlatformError::InvalidElement);
+    EXPECT_EQ(readError(*accessibility().createApplication(0x7ffffff0), LMAttribute::Windows),
+              LMPlatformError::InvalidElement);
     for (const QLatin1String attribute : windowAttributes)
         EXPECT_EQ(readError(window, attribute), LMPlatformError::InvalidElement);
     for (const LMElement& element : gone << LMElement())
         EXPECT_EQ(readError(element, LMAttribute::Role), LMPlatformError::InvalidElement);
     EXPECT_EQ(setError(window, LMAttribute::Position, QPointF(1, 2)),
               LMPlatformError::InvalidElement);
-    const auto isSettable = accessibility().isAttributeSettable(window, LMAttribute::Size);
-    ASSERT_FALSE(isSettable);
-    EXPECT_EQ(isSettable.error(), LMPlatformError::InvalidElement);
+    EXPECT_EQ(LMErrorOf(accessibility().isAttributeSettable(window, LMAttribute::Size)),
+              LMPlatformError::InvalidElement);
 }
 
-TEST_P(AccessibilityContract, ABatchReadsWhatSingleReadsDo) {
-    QList<LMElement> batch{open({.title = u"1"_qs}), open({.kind = Kind::Dialog}),
+TEST_P(AccessibilityContract, ABatchReadsWhatSingleReadsDoUntilItsEndOrAChange) {
+    QList<LMElement> batch{open({.title = u"Before"_qs}),         open({.kind = Kind::Dialog}),
                            open({.kind = Kind::ClientDecorated}), open({.isResizable = false}),
-                           open({.application = u"second"_qs})};
-    const LMElement gone = open();
-    backend->closeWindow(gone);
-    ASSERT_TRUE(LMWaitUntil([&] { return !windows().contains(gone); }));
-    batch.append(gone);
+                           open({.application = u"second"_qs}),   open()};
+    backend->closeWindow(batch.last());
+    ASSERT_TRUE(LMWaitUntil([&] { return !windows().contains(batch.last()); }));
     const auto single = answers(accessibility(), batch);
     {
         const LMReadingScope outer(accessibility(), batch.mid(0, 2));
         const LMReadingScope inner(accessibility(), batch);
+        backend->setTitle(batch.first(), u"After"_qs);
         EXPECT_EQ(answers(accessibility(), batch), single);
+        ASSERT_TRUE(set(batch.first(), LMAttribute::Position, QPointF(333, 222)));
+        EXPECT_EQ(read<QPointF>(batch.first(), LMAttribute::Position), QPointF(333, 222));
     }
-    EXPECT_EQ(answers(accessibility(), batch), single);
-}
-
-TEST_P(AccessibilityContract, ABatchRemembersUntilItsEndOrAChange) {
-    const LMElement window = open({.title = u"Before"_qs});
-    {
-        const LMReadingScope scope(accessibility(), {window});
-        backend->setTitle(window, u"After"_qs);
-        EXPECT_EQ(text(window, LMAttribute::Title), u"Before"_qs);
-        ASSERT_TRUE(set(window, LMAttribute::Position, QPointF(333, 222)));
-        EXPECT_EQ(read<QPointF>(window, LMAttribute::Position), QPointF(333, 222));
-    }
-    EXPECT_TRUE(LMWaitUntil([&] { return text(window, LMAttribute::Title) == u"After"_qs; }));
+    EXPECT_TRUE(LMWaitUntil([&] { return text(batch[0], LMAttribute::Title) == u"After"_qs; }));
+    EXPECT_EQ(answers(accessibility(), batch.mid(1)), single.mid(windowAttributes.size()));
 }
 
 TEST_P(AccessibilityContract, AFrozenApplicationCostsALimitedTime) {
     const LMElement window = open();
-    backend->freeze(u"first"_qs);
+    backend->freeze(window);
     QElapsedTimer timer;
     timer.start();
     // Whether it works is up to the window manager; that it comes back is not.
-    (void)setFrame(window, QRectF(20, 30, 500, 350));
-    (void)accessibility().copyAttributeValue(window, LMAttribute::Title);
+    (void)setError(window, LMAttribute::Position, QPointF(20, 30));
+    (void)setError(window, LMAttribute::Size, QSizeF(500, 350));
+    (void)readError(window, LMAttribute::Title);
     EXPECT_LT(timer.elapsed(), 1500);
 }

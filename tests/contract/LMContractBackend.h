@@ -11,14 +11,13 @@
 #include <memory>
 #include <vector>
 
-/// A window that a test asks for. The desktop may place it elsewhere.
+/// A window of 400 by 300 pixels that a test asks for. The desktop chooses its place.
 struct LMContractWindow {
     enum class Kind { Standard, Dialog, Utility, ClientDecorated };
 
-    QString application = QStringLiteral("first"); ///< A name within the test.
+    QString application = QStringLiteral("first"); ///< Its identifier.
     int process = 0;                               ///< Which of the application's processes.
     QString title = QStringLiteral("Window");
-    QRect geometry{200, 150, 400, 300};
     Kind kind = Kind::Standard;
     int gravity = 1; ///< As in the ICCCM: 1 is north-west, 10 is static.
     QSize increment{1, 1};
@@ -35,8 +34,6 @@ public:
     virtual ~LMContractBackend() = default;
 
     virtual LMDesktop& desktop() = 0;
-    /// Where the application of that name appears, other than in any other test.
-    virtual QString identifier(const QString& application) const = 0;
 
     /// Opens a window and returns when it has come to rest.
     virtual LMElement openWindow(const LMContractWindow& window) = 0;
@@ -47,8 +44,8 @@ public:
     virtual void setState(const LMElement& window, LMContractState state) = 0;
     /// Brings the window to the front and gives it the focus.
     virtual void raise(const LMElement& window) = 0;
-    /// The application stops answering until the end of the test.
-    virtual void freeze(const QString& application) = 0;
+    /// The process that owns the window stops answering until the end of the test.
+    virtual void freeze(const LMElement& window) = 0;
     virtual void breakConnection() = 0;
     virtual LMContractKeyboard& keyboard() = 0;
 

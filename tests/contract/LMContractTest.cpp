@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "contract/LMContractTest.h"
 
+#include <algorithm>
+
 std::vector<LMContractBackendFactory> LMContractBackends() {
     return {
         {"Fake", LMMakeFakeContractBackend},
@@ -10,31 +12,23 @@ std::vector<LMContractBackendFactory> LMContractBackends() {
     };
 }
 
-LMRunningApplication LMContractTest::running(const QString& application) {
-    const QString identifier = backend->identifier(application);
-    for (const auto& candidate : desktop().applications().runningApplications()) {
-        if (candidate.bundleIdentifier == identifier)
-            return candidate;
-    }
-    return {};
+void LMContractTest::SetUp() {
+    backend = GetParam().create();
+    QObject::connect(&desktop().applications(), &LMApplications::applicationLaunched, &desktop(),
+                     [this](const QString& identifier) { launches.append(identifier); });
 }
 
-QList<LMElement> LMContractTest::windows(const QString& application) {
-    const auto element = accessibility().createApplication(process(application));
-    return element ? read<QList<LMElement>>(*element, LMAttribute::Windows) : QList<LMElement>();
+LMRunningApplication LMContractTest::running(const QString& identifier) {
+    const auto all = desktop().applications().runningApplications();
+    const auto found = std::ranges::find(all, identifier, &LMRunningApplication::bundleIdentifier);
+    return found != all.end() ? *found : LMRunningApplication();
 }
 
-std::optional<LMPlatformError> LMContractTest::readError(const LMElement& element,
-                                                         QLatin1String attribute) {
-    const auto value = accessibility().copyAttributeValue(element, attribute);
-    return value ? std::nullopt : std::optional(value.error());
-}
-
-std::optional<LMPlatformError> LMContractTest::setError(const LMElement& element,
-                                                        QLatin1String attribute,
-                                                        const LMAttributeValue& value) {
-    const auto status = accessibility().setAttributeValue(element, attribute, value);
-    return status ? std::nullopt : std::optional(status.error());
+QList<LMElement> LMContractTest::windows(const QString& identifier) {
+    const qint64 number = process(identifier);
+    return number != 0 ? read<QList<LMElement>>(*accessibility().createApplication(number),
+                                                LMAttribute::Windows)
+                       : QList<LMElement>();
 }
 
 int main(int argc, char** argv) {

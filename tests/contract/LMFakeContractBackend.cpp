@@ -33,9 +33,6 @@ public:
         m_desktop.setScreens({QRectF(0, 0, 1920, 1080), QRectF(-1440, 90, 1440, 900)});
     }
     LMDesktop& desktop() override { return m_desktop; }
-    QString identifier(const QString& application) const override {
-        return u"org.contract."_qs + application;
-    }
     LMElement openWindow(const LMContractWindow& window) override;
     void closeWindow(const LMElement& window) override { m_desktop.removeWindow(window); }
     void setTitle(const LMElement& window, const QString& title) override {
@@ -53,11 +50,7 @@ public:
             window.hasImmutablePosition = window.hasImmutableSize = true;
     }
     void raise(const LMElement& window) override { m_desktop.focus(window); }
-    void freeze(const QString& application) override {
-        LMFakeWorld& world = m_desktop.world();
-        for (const quint32 number : world.windowsOf(*world.application(identifier(application))))
-            world.windows[number].neverAnswers = true;
-    }
+    void freeze(const LMElement& window) override { m_desktop.window(window).neverAnswers = true; }
     void breakConnection() override { m_desktop.loseConnection(u"The test broke it."_qs); }
     LMContractKeyboard& keyboard() override { return m_keyboard; }
     QRectF visibleFrame(const LMElement& window) override { return m_desktop.window(window).frame; }
@@ -76,24 +69,23 @@ private:
     LMFakeContractKeyboard m_keyboard{m_desktop.hotKeys()};
 };
 
-LMElement LMFakeContractBackend::openWindow(const LMContractWindow& description) {
+LMElement LMFakeContractBackend::openWindow(const LMContractWindow& window) {
     using Kind = LMContractWindow::Kind;
-    const bool isUtility = description.kind == Kind::Utility;
-    const QString owner = identifier(description.application);
-    if (!m_desktop.world().application(owner))
-        m_desktop.addApplication(owner, description.application, {},
+    const bool isUtility = window.kind == Kind::Utility;
+    if (!m_desktop.world().application(window.application))
+        m_desktop.addApplication(window.application, {}, {},
                                  isUtility ? LMActivationPolicy::Accessory
                                            : LMActivationPolicy::Regular);
-    LMFakeWindow window;
-    window.title = description.title;
-    window.frame = description.geometry;
-    if (isUtility || description.kind == Kind::Dialog)
-        window.subrole = isUtility ? u"AXFloatingWindow"_qs : u"AXDialog"_qs;
-    window.sizeIncrement = description.increment;
-    window.hasImmutableSize = !description.isResizable;
-    window.hasGrowArea = description.isResizable;
-    window.isModal = description.isModal;
-    const LMElement element = m_desktop.addWindow(owner, window);
+    const LMElement element = m_desktop.addWindow(
+        window.application, {.title = window.title,
+                             .frame = {200, 150, 400, 300},
+                             .subrole = isUtility                     ? u"AXFloatingWindow"_qs
+                                        : window.kind == Kind::Dialog ? u"AXDialog"_qs
+                                                                      : u"AXStandardWindow"_qs,
+                             .hasGrowArea = window.isResizable,
+                             .isModal = window.isModal,
+                             .hasImmutableSize = !window.isResizable,
+                             .sizeIncrement = window.increment});
     m_desktop.focus(element);
     return element;
 }

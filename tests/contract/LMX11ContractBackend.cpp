@@ -6,7 +6,7 @@
 
 #include <QRegularExpression>
 
-#include <algorithm>
+#include <array>
 #include <csignal>
 #include <map>
 #include <sys/types.h>
@@ -15,57 +15,41 @@
 
 namespace {
 
-QString hex(const LMElement& window) {
-    return u"0x%1"_qs.arg(window.identifier, 0, 16);
+/// What the pattern captures in the text; zeros when it does not occur.
+std::array<int, 4> numbers(const QString& text, const QString& pattern) {
+    static const auto options = QRegularExpression::DotMatchesEverythingOption;
+    const auto match = QRegularExpression(pattern, options).match(text);
+    std::array<int, 4> result{};
+    for (int index = 0; index < 4; ++index)
+        result[size_t(index)] = match.captured(index + 1).toInt();
+    return result;
 }
 
-QString property(const LMElement& window, const char* name) {
-    return LMRunTool(u"xprop -notype -id %1 %2"_qs.arg(hex(window), QLatin1String(name)));
+/// Left, right, top, bottom; zero when the property is missing.
+QMargins extents(const QString& properties, const QString& name) {
+    const auto [left, right, top, bottom] =
+        numbers(properties, name + u" = (\\d+), (\\d+), (\\d+), (\\d+)"_qs);
+    return {left, top, right, bottom};
 }
 
-/// Left, right, top, bottom; zero when the window has none.
-QMargins extents(const LMElement& window, const char* name) {
-    static const QRegularExpression pattern(u"= (\\d+), (\\d+), (\\d+), (\\d+)"_qs);
-    const auto match = pattern.match(property(window, name));
-    return {match.captured(1).toInt(), match.captured(3).toInt(), match.captured(2).toInt(),
-            match.captured(4).toInt()};
+QString encoded(const QString& text) {
+    return QString::fromLatin1(text.toUtf8().toPercentEncoding());
 }
 
-QRect clientArea(const LMElement& window) {
-    static const QRegularExpression pattern(
-        u"left X: +(-?\\d+).*?left Y: +(-?\\d+).*?Width: (\\d+)\\s+Height: (\\d+)"_qs,
-        QRegularExpression::DotMatchesEverythingOption);
-    const auto match = pattern.match(LMRunTool(u"xwininfo -id "_qs + hex(window)));
-    return {match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt(),
-            match.captured(4).toInt()};
-}
-
-QByteArray creation(const LMContractWindow& window, const QString& className) {
-    using Kind = LMContractWindow::Kind;
-    const QRect& geometry = window.geometry;
-    const QString size = u"%1,%2"_qs.arg(geometry.width()).arg(geometry.height());
-    QString command =
-        u"create class=%1,%1 title=%2 gravity=%3 geometry=%4x%5+%6+%7"_qs
-            .arg(className, QString::fromLatin1(window.title.toUtf8().toPercentEncoding()))
-            .arg(window.gravity)
-            .arg(geometry.width())
-            .arg(geometry.height())
-            .arg(geometry.x())
-            .arg(geometry.y());
-    if (window.kind == Kind::Dialog)
-        command += u" type=DIALOG"_qs;
-    if (window.kind == Kind::Utility)
-        command += u" type=UTILITY"_qs;
-    if (window.kind == Kind::ClientDecorated)
-        command += u" shadow=26,26,23,29"_qs;
+QString creation(const LMContractWindow& window) {
+    constexpr std::array kinds{"", "type=DIALOG", "type=UTILITY", "shadow=26,26,23,29"};
+    QStringList command{u"create geometry=400x300+200+150"_qs,
+                        u"class=%1,%1"_qs.arg(window.application),
+                        u"title="_qs + encoded(window.title), u"gravity=%1"_qs.arg(window.gravity),
+                        QLatin1String(kinds.at(size_t(window.kind)))};
     if (window.increment != QSize(1, 1))
-        command += u" increment=%1,%2 base=0,0"_qs.arg(window.increment.width())
-                       .arg(window.increment.height());
+        command.append(u"base=0,0 increment=%1,%2"_qs.arg(window.increment.width())
+                           .arg(window.increment.height()));
     if (window.isModal)
-        command += u" state=MODAL"_qs;
+        command.append(u"state=MODAL"_qs);
     if (!window.isResizable)
-        command += u" minimum=%1 maximum=%1"_qs.arg(size);
-    return command.toLatin1();
+        command.append(u"minimum=400,300 maximum=400,300"_qs);
+    return command.join(u' ');
 }
 
 /// Opens windows in processes of their own on the X server of the environment, and looks at them
@@ -77,38 +61,43 @@ public:
     ~LMX11ContractBackend() override;
 
     LMDesktop& desktop() override { return *m_desktop; }
-    QString identifier(const QString& application) const override {
-        return u"contract-%1-%2-%3"_qs.arg(application).arg(getpid()).arg(m_number);
-    }
     LMElement openWindow(const LMContractWindow& window) override;
-    void closeWindow(const LMElement& window) override { ask(window, u"destroy %1"_qs); }
+    void closeWindow(const LMElement& window) override {
+        client(window).ask("destroy " + QByteArray::number(window.identifier));
+    }
     void setTitle(const LMElement& window, const QString& title) override {
-        ask(window, u"retitle %1 "_qs + QString::fromLatin1(title.toUtf8().toPercentEncoding()));
+        const QString command = u"retitle %1 %2"_qs.arg(window.identifier).arg(encoded(title));
+        client(window).ask(command.toLatin1());
     }
     void minimize(const LMElement& window) override;
     void setState(const LMElement& window, LMContractState state) override {
         const bool isAbove = state == LMContractState::Above;
-        LMRunTool(u"wmctrl -i -r %1 -b add,%2"_qs.arg(hex(window),
-                                                      isAbove ? u"above"_qs : u"fullscreen"_qs));
+        LMRunTool(u"wmctrl -i -r %1 -b add,%2"_qs.arg(window.identifier)
+                      .arg(isAbove ? u"above"_qs : u"fullscreen"_qs));
     }
     void raise(const LMElement& window) override;
-    void freeze(const QString& application) override;
+    void freeze(const LMElement& window) override {
+        kill(pid_t(client(window).process()), SIGSTOP);
+    }
     void breakConnection() override;
     LMContractKeyboard& keyboard() override { return *m_keyboard; }
     QRectF visibleFrame(const LMElement& window) override;
     bool isMinimized(const LMElement& window) override {
-        return property(window, "WM_STATE").contains(u"state: Iconic"_qs);
+        return properties(window).contains(u"state: Iconic"_qs);
     }
     QList<QRectF> monitors() override;
 
 private:
     using ProcessKey = std::pair<QString, int>;
 
-    /// "%1" in the command stands for the window.
-    void ask(const LMElement& window, const QString& command) {
-        m_clients.at(m_owners.at(window.identifier))->ask(command.arg(hex(window)).toLatin1());
+    LMWindowClient& client(const LMElement& window) {
+        return *m_clients.at(m_owners.at(window.identifier));
     }
-    QPointF mainOrigin() const;
+    static QString properties(const LMElement& window) {
+        return LMRunTool(
+            u"xprop -notype -id %1 WM_STATE _NET_FRAME_EXTENTS _GTK_FRAME_EXTENTS"_qs.arg(
+                window.identifier));
+    }
 
     LMLogger m_logger;
     std::unique_ptr<LMX11Connection> m_connection; ///< Not the desktop's.
@@ -116,51 +105,44 @@ private:
     std::unique_ptr<LMDesktop> m_desktop;
     std::map<ProcessKey, std::unique_ptr<LMWindowClient>> m_clients;
     std::map<qint64, ProcessKey> m_owners; ///< By window.
-    QList<pid_t> m_frozen;
-    int m_number; ///< Of the test.
+    QPointF m_mainOrigin; ///< Where the main monitor stood when monitors were last read.
 };
 
 LMX11ContractBackend::LMX11ContractBackend() {
-    static int tests = 0;
-    m_number = ++tests;
     QString reason;
     m_connection = LMX11Connection::open(QString(), m_logger, &reason);
     m_desktop = LMX11Backend().create(m_logger, &reason);
     if (!m_connection || !m_desktop)
         throw std::runtime_error(reason.toStdString());
     m_keyboard = LMMakeX11ContractKeyboard(*m_connection);
+    monitors();
 }
 
 LMX11ContractBackend::~LMX11ContractBackend() {
-    for (const pid_t process : std::as_const(m_frozen))
-        kill(process, SIGCONT);
+    for (const auto& [key, client] : m_clients)
+        kill(pid_t(client->process()), SIGCONT);
     m_clients.clear();
-    // The server will give the windows' numbers to those of the next test.
-    LMWaitUntil([this] {
-        const QString listed = LMRunTool(u"xprop -root _NET_CLIENT_LIST"_qs);
-        return std::ranges::none_of(m_owners, [&](const auto& owner) {
-            return listed.contains(u"0x%1"_qs.arg(owner.first, 0, 16));
-        });
-    });
+    // The next test begins without windows: the server will give them the same numbers.
+    LMWaitUntilNoWindowIsListed();
 }
 
 LMElement LMX11ContractBackend::openWindow(const LMContractWindow& window) {
     const ProcessKey key(window.application, window.process);
     auto& client = m_clients[key];
     if (!client)
-        client = std::make_unique<LMWindowClient>(QStringLiteral(ROOK_WINDOW_SPAWNER));
-    const QByteArray answer = client->ask(creation(window, identifier(window.application)));
-    const LMElement element{LMElement::Kind::Window, answer.split(' ').at(1).toLongLong(nullptr, 0),
-                            0};
+        client = std::make_unique<LMWindowClient>();
+    const QByteArray number = client->ask(creation(window).toLatin1()).split(' ').at(1);
+    const LMElement element{LMElement::Kind::Window, number.toLongLong(nullptr, 0), 0};
     m_owners[element.identifier] = key;
     // Managed, decorated, placed, and nothing has moved from one look to the next.
     const bool isDecorated = window.kind != LMContractWindow::Kind::ClientDecorated;
     QRectF last;
     const bool hasSettled = LMWaitUntil([&] {
         const QRectF frame = visibleFrame(element);
-        return std::exchange(last, frame) == frame &&
-               property(element, "WM_STATE").contains(u"state: Normal"_qs) &&
-               (!isDecorated || !extents(element, "_NET_FRAME_EXTENTS").isNull());
+        const QString state = properties(element);
+        return std::exchange(last, frame) == frame && state.contains(u"state: Normal"_qs) &&
+               (!isDecorated || !extents(state, u"_NET_FRAME_EXTENTS"_qs).isNull()) &&
+               LMListedWindows().contains(u"0x%1"_qs.arg(element.identifier, 0, 16));
     });
     if (!hasSettled)
         throw std::runtime_error("the window manager did not show the window");
@@ -169,7 +151,7 @@ LMElement LMX11ContractBackend::openWindow(const LMContractWindow& window) {
 
 void LMX11ContractBackend::minimize(const LMElement& window) {
     const QRectF before = visibleFrame(window);
-    LMRunTool(u"xdotool windowminimize "_qs + hex(window));
+    LMRunTool(u"xdotool windowminimize %1"_qs.arg(window.identifier));
     // openbox draws how the window shrinks to an icon by moving its frame about.
     LMWaitUntil([&] { return isMinimized(window) && visibleFrame(window) == before; });
 }
@@ -182,15 +164,6 @@ void LMX11ContractBackend::raise(const LMElement& window) {
                                       m_connection->ewmhAtoms()._NET_ACTIVE_WINDOW,
                                       {user, m_connection->serverTime()});
     m_connection->serverTime(); // The server has passed it on.
-}
-
-void LMX11ContractBackend::freeze(const QString& application) {
-    for (const auto& [key, client] : m_clients) {
-        if (key.first != application)
-            continue;
-        m_frozen.append(pid_t(client->process()));
-        kill(m_frozen.last(), SIGSTOP);
-    }
 }
 
 /// Has the server drop all connections of this process but the one that asks for it.
@@ -210,28 +183,25 @@ void LMX11ContractBackend::breakConnection() {
 }
 
 QRectF LMX11ContractBackend::visibleFrame(const LMElement& window) {
-    const QRectF frame = clientArea(window)
-                             .marginsAdded(extents(window, "_NET_FRAME_EXTENTS"))
-                             .marginsRemoved(extents(window, "_GTK_FRAME_EXTENTS"));
-    return QRectF(frame).translated(-mainOrigin());
-}
-
-QPointF LMX11ContractBackend::mainOrigin() const {
-    static const QRegularExpression main(u": \\+\\*\\S+ \\S+x\\d+/\\d+([+-]\\d+)([+-]\\d+)"_qs);
-    const auto match = main.match(LMRunTool(u"xrandr --listmonitors"_qs));
-    return {match.captured(1).toDouble(), match.captured(2).toDouble()};
+    const auto [x, y, width, height] =
+        numbers(LMRunTool(u"xwininfo -id %1"_qs.arg(window.identifier)),
+                u"left X: +(-?\\d+).*?left Y: +(-?\\d+).*?Width: (\\d+)\\s+Height: (\\d+)"_qs);
+    const QString properties = this->properties(window);
+    return QRectF(x, y, width, height)
+        .marginsAdded(extents(properties, u"_NET_FRAME_EXTENTS"_qs))
+        .marginsRemoved(extents(properties, u"_GTK_FRAME_EXTENTS"_qs))
+        .translated(-m_mainOrigin);
 }
 
 QList<QRectF> LMX11ContractBackend::monitors() {
-    static const QRegularExpression pattern(u"(\\d+)/\\d+x(\\d+)/\\d+([+-]\\d+)([+-]\\d+)"_qs);
-    const QString text = LMRunTool(u"xrandr --listmonitors"_qs);
     QList<QRectF> result;
-    for (auto match = pattern.globalMatch(text); match.hasNext();) {
-        const auto monitor = match.next();
-        result.append(QRectF(monitor.captured(3).toInt(), monitor.captured(4).toInt(),
-                             monitor.captured(1).toInt(), monitor.captured(2).toInt())
-                          .translated(-mainOrigin()));
+    for (const LMListedMonitor& monitor : LMListMonitors()) {
+        result.append(monitor.frame);
+        if (monitor.isMain)
+            m_mainOrigin = monitor.frame.topLeft();
     }
+    for (QRectF& monitor : result)
+        monitor.translate(-m_mainOrigin);
     return result;
 }
 

@@ -4,6 +4,8 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QProcess>
+#include <QRectF>
+#include <QRegularExpression>
 #include <QStringList>
 #include <QTimer>
 
@@ -34,12 +36,44 @@ inline QString LMRunTool(const QString& command) {
     return QString::fromUtf8(process.readAllStandardOutput());
 }
 
+/// A line of what "xrandr --listmonitors" says, root coordinates.
+struct LMListedMonitor {
+    QString name;
+    QRectF frame;
+    bool isMain;
+};
+
+inline QList<LMListedMonitor> LMListMonitors() {
+    static const QRegularExpression pattern(
+        u": \\+?(\\*?)(\\S+) (\\d+)/\\d+x(\\d+)/\\d+([+-]\\d+)([+-]\\d+)"_qs);
+    const QString text = LMRunTool(u"xrandr --listmonitors"_qs);
+    QList<LMListedMonitor> monitors;
+    for (auto match = pattern.globalMatch(text); match.hasNext();) {
+        const auto each = match.next();
+        const auto number = [&each](int group) { return each.captured(group).toDouble(); };
+        monitors.append({each.captured(2),
+                         {number(5), number(6), number(3), number(4)},
+                         !each.captured(1).isEmpty()});
+    }
+    return monitors;
+}
+
+/// The windows that the window manager knows, in hexadecimal.
+inline QString LMListedWindows() {
+    return LMRunTool(u"xprop -root _NET_CLIENT_LIST"_qs);
+}
+
+/// For the window manager to forget the windows of clients that have ended.
+inline bool LMWaitUntilNoWindowIsListed() {
+    return LMWaitUntil([] { return !LMListedWindows().contains(u"0x"_qs); });
+}
+
 /// A client of the X server in a process of its own, which ends with the object.
 class LMWindowClient {
 public:
-    explicit LMWindowClient(const QString& program) {
+    LMWindowClient() {
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_process.start(program, QStringList());
+        m_process.start(qEnvironmentVariable("ROOK_WINDOW_SPAWNER"), QStringList());
     }
     ~LMWindowClient() {
         m_process.closeWriteChannel(); // It ends with its standard input.

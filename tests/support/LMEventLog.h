@@ -14,15 +14,6 @@ public:
     void clear() { m_events.clear(); }
 
     const QStringList& events() const { return m_events; }
-    /// The events of the given kind ("hide", "sleep", ...), in order.
-    QStringList events(const QString& kind) const {
-        QStringList result;
-        for (const QString& event : m_events) {
-            if (event.startsWith(kind + QLatin1Char(' ')))
-                result.append(event);
-        }
-        return result;
-    }
 
 private:
     QStringList m_events;

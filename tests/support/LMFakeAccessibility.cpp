@@ -1,103 +1,95 @@
 // SPDX-License-Identifier: MIT
 #include "support/LMFakeAccessibility.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace {
 
 using Value = LMPlatformResult<LMAttributeValue>;
+using Elements = LMPlatformResult<QList<LMElement>>;
+using enum LMPlatformError;
 
-template <class T>
-LMPlatformResult<T> failure(LMPlatformError error) {
-    return LMPlatformResult<T>::failure(error);
-}
+/// A failure of any call.
+struct Failed {
+    LMPlatformError error;
+
+    template <class T>
+    operator LMResult<T, LMPlatformError>() const {
+        return LMResult<T, LMPlatformError>::failure(error);
+    }
+};
 
 Value presence(bool isPresent) {
-    return isPresent ? Value::success(true) : Value::failure(LMPlatformError::AttributeUnsupported);
+    return isPresent ? Value::success(true) : Failed{AttributeUnsupported};
 }
 
 Value text(const QString& text) {
-    return text.isNull() ? Value::failure(LMPlatformError::AttributeUnsupported)
-                         : Value::success(text);
-}
-
-QList<LMElement> childrenOf(const LMElement& element, const LMFakeWindow& window) {
-    QList<LMElement> children;
-    for (int index = 0; index < window.childRoles.size(); ++index)
-        children.append({LMElement::Kind::Child, element.identifier, index});
-    return children;
+    return text.isNull() ? Failed{AttributeUnsupported} : Value::success(text);
 }
 
 Value windowValue(const LMElement& element, const LMFakeWindow& window, QLatin1String attribute) {
     if (element.kind == LMElement::Kind::Child)
         return attribute == LMAttribute::Role ? text(window.childRoles.value(element.index))
                                               : presence(false);
-    if (attribute == LMAttribute::Title)
-        return text(window.title);
-    if (attribute == LMAttribute::Role)
-        return Value::success(QStringLiteral("AXWindow"));
-    if (attribute == LMAttribute::Subrole)
-        return text(window.subrole);
-    if (attribute == LMAttribute::Position)
-        return Value::success(window.frame.topLeft());
-    if (attribute == LMAttribute::Size)
-        return Value::success(window.frame.size());
-    if (attribute == LMAttribute::Children)
-        return Value::success(childrenOf(element, window));
-    if (attribute == LMAttribute::Modal)
-        return Value::success(window.isModal);
-    if (attribute == LMAttribute::ToolbarButton)
-        return presence(window.hasToolbarButton);
-    if (attribute == LMAttribute::GrowArea)
-        return presence(window.hasGrowArea);
-    return presence(attribute == LMAttribute::Document && window.hasDocument);
+    QList<LMElement> children;
+    for (int index = 0; index < window.childRoles.size(); ++index)
+        children.append({LMElement::Kind::Child, element.identifier, index});
+    const std::map<QLatin1String, Value> values{
+        {LMAttribute::Title, text(window.title)},
+        {LMAttribute::Role, text(u"AXWindow"_qs)},
+        {LMAttribute::Subrole, text(window.subrole)},
+        {LMAttribute::Position, Value::success(window.frame.topLeft())},
+        {LMAttribute::Size, Value::success(window.frame.size())},
+        {LMAttribute::Children, Value::success(children)},
+        {LMAttribute::Modal, Value::success(window.isModal)},
+        {LMAttribute::ToolbarButton, presence(window.hasToolbarButton)},
+        {LMAttribute::GrowArea, presence(window.hasGrowArea)},
+        {LMAttribute::Document, presence(window.hasDocument)},
+    };
+    const auto value = values.find(attribute);
+    return value != values.end() ? value->second : presence(false);
 }
 
-double rounded(double value, double base, double increment, double minimum) {
-    return std::max(minimum, base + std::floor((value - base) / increment) * increment);
+/// The size rounded down to whole increments, but no less than one pixel.
+QSizeF rounded(const QSizeF& size, const QSizeF& increment) {
+    const auto steps = [](double length, double step) { return std::floor(length / step) * step; };
+    return QSizeF(steps(size.width(), increment.width()), steps(size.height(), increment.height()))
+        .expandedTo({1, 1});
 }
 
-QString pairText(double first, double second) {
-    return QStringLiteral("%1,%2").arg(first).arg(second);
+QString request(const char* what, const LMFakeWindow& window, double first, double second) {
+    return u"%1 \"%2\" %3,%4"_qs.arg(QLatin1String(what), window.title, QString::number(first),
+                                     QString::number(second));
 }
 
 } // namespace
 
 void LMFakeAccessibility::fail(const LMElement& element, LMFakeCall call, QLatin1String attribute,
                                LMPlatformError error, int after) {
-    m_failures.insert_or_assign({element, call, QString(attribute)}, Failure{error, after});
-}
-
-void LMFakeAccessibility::failCreateApplication(LMPlatformError error) {
-    fail({}, LMFakeCall::CreateApplication, QLatin1String(), error);
+    m_injected.insert_or_assign({element, call, attribute}, Answer{Failed{error}, after});
 }
 
 void LMFakeAccessibility::answer(const LMElement& element, QLatin1String attribute,
                                  const LMAttributeValue& value) {
-    m_answers.insert_or_assign({element, LMFakeCall::Copy, QString(attribute)}, value);
+    m_injected.insert_or_assign({element, LMFakeCall::Copy, attribute},
+                                Answer{Value::success(value), 0});
 }
 
-void LMFakeAccessibility::mend() {
-    m_failures.clear();
-    m_answers.clear();
-}
-
-std::optional<LMPlatformError>
-LMFakeAccessibility::failureOf(const LMElement& element, LMFakeCall call, QLatin1String attribute) {
+std::optional<Value> LMFakeAccessibility::injected(const LMElement& element, LMFakeCall call,
+                                                   QLatin1String attribute) {
     if (!m_world.isConnected)
-        return LMPlatformError::CannotComplete;
-    const auto found = m_failures.find({element, call, QString(attribute)});
-    if (found == m_failures.end() || found->second.after-- > 0)
+        return Failed{CannotComplete};
+    const auto found = m_injected.find({element, call, attribute});
+    if (found == m_injected.end() || found->second.after-- > 0)
         return std::nullopt;
-    return found->second.error;
+    return found->second.value;
 }
 
 LMPlatformResult<LMElement> LMFakeAccessibility::createApplication(qint64 processIdentifier) {
-    if (const auto error = failureOf({}, LMFakeCall::CreateApplication, QLatin1String()))
-        return failure<LMElement>(*error);
-    return LMPlatformResult<LMElement>::success(
-        {LMElement::Kind::Application, processIdentifier, 0});
+    if (const auto answer = injected({}, LMFakeCall::CreateApplication, QLatin1String()))
+        return Failed{answer->error()};
+    const LMElement element{LMElement::Kind::Application, processIdentifier, 0};
+    return LMPlatformResult<LMElement>::success(element);
 }
 
 LMPlatformResult<LMFakeWindow> LMFakeAccessibility::readWindow(const LMElement& element) {
@@ -106,143 +98,100 @@ LMPlatformResult<LMFakeWindow> LMFakeAccessibility::readWindow(const LMElement& 
         return remembered->second;
     ++m_world.roundTrips;
     const auto window = m_world.windows.find(quint32(element.identifier));
-    if (window == m_world.windows.end())
-        return failure<LMFakeWindow>(LMPlatformError::InvalidElement);
-    if (window->neverAnswers)
-        return failure<LMFakeWindow>(LMPlatformError::CannotComplete);
-    if (window->readsBeforeVanishing == 0) {
-        m_world.removeWindow(quint32(element.identifier));
-        return failure<LMFakeWindow>(LMPlatformError::InvalidElement);
-    }
-    if (window->readsBeforeVanishing > 0)
-        --window->readsBeforeVanishing;
-    return LMPlatformResult<LMFakeWindow>::success(*window);
+    if (window != m_world.windows.end() && window->neverAnswers)
+        return Failed{CannotComplete};
+    if (window != m_world.windows.end() && window->readsBeforeVanishing-- != 0)
+        return LMPlatformResult<LMFakeWindow>::success(*window);
+    m_world.removeWindow(quint32(element.identifier));
+    return Failed{InvalidElement};
 }
 
 Value LMFakeAccessibility::applicationValue(const LMElement& element, QLatin1String attribute) {
     ++m_world.roundTrips;
     const LMFakeApplication* application = m_world.application(element.identifier);
     if (!application)
-        return Value::failure(LMPlatformError::InvalidElement);
-    const QList<quint32> numbers = m_world.windowsOf(*application);
+        return Failed{InvalidElement};
     QList<LMElement> windows;
-    for (const quint32 number : numbers)
+    for (const quint32 number : m_world.windowsOf(*application))
         windows.append({LMElement::Kind::Window, number, 0});
     if (attribute == LMAttribute::Windows)
         return Value::success(windows);
-    if (attribute == LMAttribute::FocusedWindow && !windows.isEmpty()) {
-        const LMElement focused{LMElement::Kind::Window, m_world.focusedWindow.value_or(0), 0};
-        return Value::success(windows.contains(focused) ? focused : windows.first());
-    }
-    return Value::failure(LMPlatformError::AttributeUnsupported);
+    if (attribute != LMAttribute::FocusedWindow || windows.isEmpty())
+        return Failed{AttributeUnsupported};
+    const LMElement focused{LMElement::Kind::Window, m_world.focusedWindow.value_or(0), 0};
+    return Value::success(windows.contains(focused) ? focused : windows.first());
 }
 
 Value LMFakeAccessibility::copyAttributeValue(const LMElement& element, QLatin1String attribute) {
-    if (const auto error = failureOf(element, LMFakeCall::Copy, attribute))
-        return Value::failure(*error);
-    const auto answer = m_answers.find({element, LMFakeCall::Copy, QString(attribute)});
-    if (answer != m_answers.end())
-        return Value::success(answer->second);
+    if (const auto answer = injected(element, LMFakeCall::Copy, attribute))
+        return *answer;
     if (element.kind == LMElement::Kind::Application)
         return applicationValue(element, attribute);
-    if (element.isNull())
-        return Value::failure(LMPlatformError::InvalidElement);
     const auto window = readWindow(element);
-    return window ? windowValue(element, *window, attribute) : Value::failure(window.error());
+    return window ? windowValue(element, *window, attribute) : Failed{window.error()};
 }
 
-LMPlatformResult<QList<LMElement>> LMFakeAccessibility::elements(const LMElement& element,
-                                                                 QLatin1String attribute) {
-    const Value value = copyAttributeValue(element, attribute);
+Elements LMFakeAccessibility::elements(const LMElement& element, LMFakeCall call,
+                                       QLatin1String attribute) {
+    const auto answer = injected(element, call, attribute);
+    const Value value = answer ? *answer : copyAttributeValue(element, attribute);
     if (!value)
-        return failure<QList<LMElement>>(value.error());
+        return Failed{value.error()};
     const auto* list = std::get_if<QList<LMElement>>(&*value);
-    return list ? LMPlatformResult<QList<LMElement>>::success(*list)
-                : failure<QList<LMElement>>(LMPlatformError::AttributeUnsupported);
+    return list ? Elements::success(*list) : Failed{AttributeUnsupported};
 }
 
 LMPlatformResult<int> LMFakeAccessibility::attributeValueCount(const LMElement& element,
                                                                QLatin1String attribute) {
-    if (const auto error = failureOf(element, LMFakeCall::Count, attribute))
-        return failure<int>(*error);
-    const auto list = elements(element, attribute);
-    return list ? LMPlatformResult<int>::success(int(list->size())) : failure<int>(list.error());
+    const auto list = elements(element, LMFakeCall::Count, attribute);
+    return list ? LMPlatformResult<int>::success(int(list->size())) : Failed{list.error()};
 }
 
-LMPlatformResult<QList<LMElement>>
-LMFakeAccessibility::copyAttributeValues(const LMElement& element, QLatin1String attribute,
-                                         int index, int maxValues) {
-    if (const auto error = failureOf(element, LMFakeCall::CopyRange, attribute))
-        return failure<QList<LMElement>>(*error);
-    const auto list = elements(element, attribute);
-    return list ? LMPlatformResult<QList<LMElement>>::success(
-                      list->mid(std::max(index, 0), std::max(maxValues, 0)))
-                : list;
+Elements LMFakeAccessibility::copyAttributeValues(const LMElement& element, QLatin1String attribute,
+                                                  int index, int maxValues) {
+    const auto list = elements(element, LMFakeCall::CopyRange, attribute);
+    return list ? Elements::success(list->mid(index, maxValues)) : list;
 }
 
 LMPlatformResult<bool> LMFakeAccessibility::isAttributeSettable(const LMElement& element,
                                                                 QLatin1String attribute) {
-    if (const auto error = failureOf(element, LMFakeCall::IsSettable, attribute))
-        return failure<bool>(*error);
-    if (element.kind != LMElement::Kind::Window)
-        return LMPlatformResult<bool>::success(false);
+    if (const auto answer = injected(element, LMFakeCall::IsSettable, attribute))
+        return Failed{answer->error()};
     const auto window = readWindow(element);
     if (!window)
-        return failure<bool>(window.error());
-    return LMPlatformResult<bool>::success(
-        (attribute == LMAttribute::Position && !window->hasImmutablePosition) ||
-        (attribute == LMAttribute::Size && !window->hasImmutableSize));
-}
-
-LMPlatformStatus LMFakeAccessibility::setPosition(LMFakeWindow& window,
-                                                  const LMAttributeValue& value) {
-    const auto* point = std::get_if<QPointF>(&value);
-    if (!point)
-        return LMPlatformStatus::failure(LMPlatformError::Failure);
-    m_world.log.add(
-        QStringLiteral("position \"%1\" %2").arg(window.title, pairText(point->x(), point->y())));
-    if (window.hasImmutablePosition)
-        return LMPlatformStatus::failure(LMPlatformError::NotSettable);
-    window.frame.moveTopLeft(*point);
-    return LMPlatformStatus::success();
-}
-
-LMPlatformStatus LMFakeAccessibility::setSize(LMFakeWindow& window, const LMAttributeValue& value) {
-    const auto* size = std::get_if<QSizeF>(&value);
-    if (!size)
-        return LMPlatformStatus::failure(LMPlatformError::Failure);
-    m_world.log.add(QStringLiteral("size \"%1\" %2")
-                        .arg(window.title, pairText(size->width(), size->height())));
-    if (window.hasImmutableSize)
-        return LMPlatformStatus::failure(LMPlatformError::NotSettable);
-    if (window.ignoredSizeChanges > 0) {
-        --window.ignoredSizeChanges;
-        return LMPlatformStatus::success();
-    }
-    window.frame.setSize({rounded(size->width(), window.baseSize.width(),
-                                  window.sizeIncrement.width(), window.minimumSize.width()),
-                          rounded(size->height(), window.baseSize.height(),
-                                  window.sizeIncrement.height(), window.minimumSize.height())});
-    return LMPlatformStatus::success();
+        return Failed{window.error()};
+    const bool isSettable = attribute == LMAttribute::Position
+                                ? !window->hasImmutablePosition
+                                : attribute == LMAttribute::Size && !window->hasImmutableSize;
+    return LMPlatformResult<bool>::success(element.kind == LMElement::Kind::Window && isSettable);
 }
 
 LMPlatformStatus LMFakeAccessibility::setAttributeValue(const LMElement& element,
                                                         QLatin1String attribute,
                                                         const LMAttributeValue& value) {
     m_remembered.erase(element.identifier);
-    const auto injected = failureOf(element, LMFakeCall::Set, attribute);
     const auto window = m_world.windows.find(quint32(element.identifier));
     if (element.kind != LMElement::Kind::Window || window == m_world.windows.end())
-        return LMPlatformStatus::failure(LMPlatformError::InvalidElement);
-    if (injected)
-        return LMPlatformStatus::failure(*injected);
+        return Failed{InvalidElement};
+    if (const auto answer = injected(element, LMFakeCall::Set, attribute))
+        return Failed{answer->error()};
     if (window->neverAnswers)
-        return LMPlatformStatus::failure(LMPlatformError::CannotComplete);
-    if (attribute == LMAttribute::Position)
-        return setPosition(*window, value);
-    if (attribute == LMAttribute::Size)
-        return setSize(*window, value);
-    return LMPlatformStatus::failure(LMPlatformError::NotSettable);
+        return Failed{CannotComplete};
+    const auto* point = attribute == LMAttribute::Position ? std::get_if<QPointF>(&value) : nullptr;
+    const auto* size = attribute == LMAttribute::Size ? std::get_if<QSizeF>(&value) : nullptr;
+    if (!point && !size)
+        return Failed{NotSettable};
+    m_world.log.add(point ? request("position", *window, point->x(), point->y())
+                          : request("size", *window, size->width(), size->height()));
+    if (point ? window->hasImmutablePosition : window->hasImmutableSize)
+        return Failed{NotSettable};
+    if (point)
+        window->frame.moveTopLeft(*point);
+    else if (window->ignoredSizeChanges > 0)
+        --window->ignoredSizeChanges;
+    else
+        window->frame.setSize(rounded(*size, window->sizeIncrement));
+    return LMPlatformStatus::success();
 }
 
 void LMFakeAccessibility::beginReading(const QList<LMElement>& windows) {

@@ -31,31 +31,31 @@ public:
     /// Makes this call fail after so many calls that go well.
     void fail(const LMElement& element, LMFakeCall call, QLatin1String attribute,
               LMPlatformError error, int after = 0);
-    void failCreateApplication(LMPlatformError error);
+    void failCreateApplication(LMPlatformError error) {
+        fail({}, LMFakeCall::CreateApplication, QLatin1String(), error);
+    }
     /// Answers reads of the attribute with this value, whatever its type.
     void answer(const LMElement& element, QLatin1String attribute, const LMAttributeValue& value);
     /// Takes back every failure and answer.
-    void mend();
+    void mend() { m_injected.clear(); }
 
 private:
-    using Key = std::tuple<LMElement, LMFakeCall, QString>;
-    struct Failure {
-        LMPlatformError error;
+    struct Answer {
+        LMPlatformResult<LMAttributeValue> value;
         int after;
     };
 
-    std::optional<LMPlatformError> failureOf(const LMElement& element, LMFakeCall call,
-                                             QLatin1String attribute);
+    /// What tests, or the loss of the connection, make the call answer.
+    std::optional<LMPlatformResult<LMAttributeValue>>
+    injected(const LMElement& element, LMFakeCall call, QLatin1String attribute);
     LMPlatformResult<LMFakeWindow> readWindow(const LMElement& element);
     LMPlatformResult<LMAttributeValue> applicationValue(const LMElement& element,
                                                         QLatin1String attribute);
-    LMPlatformResult<QList<LMElement>> elements(const LMElement& element, QLatin1String attribute);
-    LMPlatformStatus setPosition(LMFakeWindow& window, const LMAttributeValue& value);
-    LMPlatformStatus setSize(LMFakeWindow& window, const LMAttributeValue& value);
+    LMPlatformResult<QList<LMElement>> elements(const LMElement& element, LMFakeCall call,
+                                                QLatin1String attribute);
 
     LMFakeWorld& m_world;
-    std::map<Key, Failure> m_failures;
-    std::map<Key, LMAttributeValue> m_answers;
+    std::map<std::tuple<LMElement, LMFakeCall, QLatin1String>, Answer> m_injected;
     int m_readingDepth = 0;
     std::map<qint64, LMPlatformResult<LMFakeWindow>> m_remembered; ///< By window number.
 };

@@ -2,59 +2,54 @@
 #include "support/LMFakeApplications.h"
 
 #include <algorithm>
-
-LMRunningApplication LMFakeApplications::description(const LMFakeApplication& application) const {
-    LMRunningApplication result;
-    result.bundleIdentifier = application.bundleIdentifier;
-    result.localizedName = application.localizedName;
-    result.processIdentifier = application.processIdentifiers.first();
-    result.activationPolicy = application.activationPolicy;
-    result.isActive =
-        m_world.focusedWindow && m_world.windowsOf(application).contains(*m_world.focusedWindow);
-    result.isHidden = m_world.isHidden(application);
-    return result;
-}
+#include <utility>
 
 QList<LMRunningApplication> LMFakeApplications::runningApplications() {
     QList<LMRunningApplication> result;
     if (!m_world.isConnected)
         return result;
     for (const LMFakeApplication& application : std::as_const(m_world.applications)) {
-        if (!m_world.windowsOf(application).isEmpty())
-            result.append(description(application));
+        const QList<quint32> windows = m_world.windowsOf(application);
+        if (!windows.isEmpty())
+            result.append({.bundleIdentifier = application.bundleIdentifier,
+                           .localizedName = application.localizedName,
+                           .processIdentifier = application.processIdentifiers.first(),
+                           .activationPolicy = application.activationPolicy,
+                           .isActive = windows.contains(m_world.focusedWindow.value_or(0)),
+                           .isHidden = std::ranges::all_of(windows, [this](quint32 number) {
+                               return m_world.windows[number].isMinimized;
+                           })});
     }
     return result;
 }
 
-LMFakeApplication* LMFakeApplications::reachable(qint64 processIdentifier) {
+LMFakeApplication* LMFakeApplications::reach(qint64 processIdentifier, const QString& what) {
     LMFakeApplication* application =
         m_world.isConnected ? m_world.application(processIdentifier) : nullptr;
-    return application && !m_world.windowsOf(*application).isEmpty() ? application : nullptr;
+    if (!application || m_world.windowsOf(*application).isEmpty())
+        return nullptr;
+    m_world.log.add(what + u' ' + application->bundleIdentifier);
+    return application;
 }
 
 bool LMFakeApplications::activate(qint64 processIdentifier) {
-    const LMFakeApplication* application = reachable(processIdentifier);
+    const LMFakeApplication* application = reach(processIdentifier, u"activate"_qs);
     if (!application)
         return false;
-    m_world.log.add(QStringLiteral("activate ") + application->bundleIdentifier);
-    const QList<quint32> numbers = m_world.windowsOf(*application);
-    const auto shown = std::find_if(numbers.begin(), numbers.end(), [this](quint32 number) {
-        const LMFakeWindow& window = m_world.windows[number];
-        return !window.isMinimized && window.virtualDesktop == 0;
-    });
-    if (shown == numbers.end())
-        return false;
-    const quint32 number = *shown;
-    m_world.raise(number);
-    m_world.focusedWindow = number;
-    return true;
+    for (const quint32 number : m_world.windowsOf(*application)) {
+        if (m_world.windows[number].isMinimized)
+            continue;
+        m_world.raise(number);
+        m_world.focusedWindow = number;
+        return true;
+    }
+    return false;
 }
 
 bool LMFakeApplications::hide(qint64 processIdentifier) {
-    LMFakeApplication* application = reachable(processIdentifier);
+    LMFakeApplication* application = reach(processIdentifier, u"hide"_qs);
     if (!application)
         return false;
-    m_world.log.add(QStringLiteral("hide ") + application->bundleIdentifier);
     for (const quint32 number : m_world.windowsOf(*application)) {
         LMFakeWindow& window = m_world.windows[number];
         if (!window.isMinimized)
@@ -67,10 +62,9 @@ bool LMFakeApplications::hide(qint64 processIdentifier) {
 }
 
 bool LMFakeApplications::unhide(qint64 processIdentifier) {
-    LMFakeApplication* application = reachable(processIdentifier);
+    LMFakeApplication* application = reach(processIdentifier, u"unhide"_qs);
     if (!application)
         return false;
-    m_world.log.add(QStringLiteral("unhide ") + application->bundleIdentifier);
     for (const quint32 number : std::exchange(application->minimizedByHiding, {})) {
         if (m_world.windows.contains(number))
             m_world.windows[number].isMinimized = false;

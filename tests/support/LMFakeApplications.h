@@ -18,8 +18,9 @@ public:
     QString fileManagerIdentifier() override { return m_world.fileManagerIdentifier; }
 
 private:
-    LMFakeApplication* reachable(qint64 processIdentifier);
-    LMRunningApplication description(const LMFakeApplication& application) const;
+    /// The application with windows that the process identifier stands for, or null; logs what is
+    /// asked of it.
+    LMFakeApplication* reach(qint64 processIdentifier, const QString& what);
 
     LMFakeWorld& m_world;
 };

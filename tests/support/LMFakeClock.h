@@ -14,17 +14,12 @@ public:
     void setNow(const QDateTime& now) { m_now = now; }
 
     void sleep(std::chrono::microseconds duration) override {
-        m_slept += duration;
         m_now = m_now.addMSecs(duration.count() / 1000);
         if (m_log)
             m_log->add(QStringLiteral("sleep %1").arg(duration.count()));
     }
 
-    /// All sleeps together.
-    std::chrono::microseconds slept() const { return m_slept; }
-
 private:
     LMEventLog* m_log;
     QDateTime m_now{QDate(2024, 5, 17), QTime(12, 0)};
-    std::chrono::microseconds m_slept{0};
 };

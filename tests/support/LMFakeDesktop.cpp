@@ -27,22 +27,19 @@ QString LMFakeDesktop::windowManagerName() const {
 qint64 LMFakeDesktop::addApplication(const QString& bundleIdentifier, const QString& localizedName,
                                      const QList<qint64>& processIdentifiers,
                                      LMActivationPolicy policy) {
-    LMFakeApplication application;
-    application.bundleIdentifier = bundleIdentifier;
-    application.localizedName = localizedName.isNull() ? bundleIdentifier : localizedName;
-    application.processIdentifiers = processIdentifiers;
-    if (processIdentifiers.isEmpty())
-        application.processIdentifiers = {++m_lastProcessIdentifier};
-    application.activationPolicy = policy;
-    m_world.applications.append(application);
-    return application.processIdentifiers.first();
+    m_world.applications.append(
+        {.bundleIdentifier = bundleIdentifier,
+         .localizedName = localizedName.isNull() ? bundleIdentifier : localizedName,
+         .processIdentifiers = processIdentifiers,
+         .activationPolicy = policy});
+    QList<qint64>& processes = m_world.applications.last().processIdentifiers;
+    if (processes.isEmpty())
+        processes = {++m_lastProcessIdentifier};
+    return processes.first();
 }
 
 void LMFakeDesktop::removeApplication(const QString& bundleIdentifier) {
-    const LMFakeApplication* application = m_world.application(bundleIdentifier);
-    if (!application)
-        return;
-    for (const quint32 number : m_world.windowsOf(*application))
+    for (const quint32 number : m_world.windowsOf(*m_world.application(bundleIdentifier)))
         m_world.removeWindow(number);
     m_world.applications.removeIf(
         [&](const auto& other) { return other.bundleIdentifier == bundleIdentifier; });
@@ -69,14 +66,6 @@ LMFakeWindow& LMFakeDesktop::window(const LMElement& element) {
     return *window;
 }
 
-void LMFakeDesktop::removeWindow(const LMElement& element) {
-    m_world.removeWindow(quint32(element.identifier));
-}
-
-void LMFakeDesktop::raise(const LMElement& element) {
-    m_world.raise(quint32(element.identifier));
-}
-
 void LMFakeDesktop::focus(const LMElement& element) {
     m_world.focusedWindow.reset();
     if (element.isNull())
@@ -86,29 +75,18 @@ void LMFakeDesktop::focus(const LMElement& element) {
 }
 
 void LMFakeDesktop::makeActive(const QString& bundleIdentifier) {
-    const LMFakeApplication* application = m_world.application(bundleIdentifier);
-    if (!application || m_world.windowsOf(*application).isEmpty())
-        throw std::logic_error("no window of " + bundleIdentifier.toStdString());
-    focus({LMElement::Kind::Window, m_world.windowsOf(*application).first(), 0});
+    const QList<quint32> windows = m_world.windowsOf(*m_world.application(bundleIdentifier));
+    focus({LMElement::Kind::Window, windows.first(), 0});
 }
 
 void LMFakeDesktop::setScreens(const QList<QRectF>& displayBounds) {
     QList<LMScreen> screens;
-    for (const QRectF& bounds : displayBounds) {
-        LMScreen screen;
-        screen.displayBounds = bounds;
-        screens.append(screen);
-    }
+    for (const QRectF& bounds : displayBounds)
+        screens.emplaceBack().displayBounds = bounds;
     m_screens.setScreens(screens);
 }
 
-void LMFakeDesktop::announceScreenChange() {
-    Q_EMIT m_screens.screenParametersChanged();
-}
-
 void LMFakeDesktop::loseConnection(const QString& reason) {
-    if (!m_world.isConnected)
-        return;
     m_world.isConnected = false;
     Q_EMIT connectionLost(reason);
 }

@@ -54,8 +54,10 @@ public:
     LMElement addWindow(const QString& bundleIdentifier, LMFakeWindow window = {});
     /// Valid until the next window is added or removed.
     LMFakeWindow& window(const LMElement& element);
-    void removeWindow(const LMElement& element);
-    void raise(const LMElement& element);
+    void removeWindow(const LMElement& element) {
+        m_world.removeWindow(quint32(element.identifier));
+    }
+    void raise(const LMElement& element) { m_world.raise(quint32(element.identifier)); }
 
     /// Gives the window the focus and brings it to the front; a null element takes the focus from
     /// all.
@@ -65,7 +67,7 @@ public:
 
     /// A screen for each rectangle in global display coordinates, the main one first. Says nothing.
     void setScreens(const QList<QRectF>& displayBounds);
-    void announceScreenChange();
+    void announceScreenChange() { Q_EMIT m_screens.screenParametersChanged(); }
 
     /// Breaks the connection: lists are empty from now on and calls fail.
     void loseConnection(const QString& reason);

@@ -1,26 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "support/LMFakeScreens.h"
 
+#include <algorithm>
 #include <map>
 
 namespace {
-
-/// Moves all rectangles so that the main screen stands at the origin.
-QList<LMScreen> completed(QList<LMScreen> screens) {
-    const QRectF main = screens.isEmpty() ? QRectF() : screens.first().displayBounds;
-    quint32 index = 0;
-    for (LMScreen& screen : screens) {
-        QRectF& bounds = screen.displayBounds;
-        const QRectF visible = screen.visibleFrame.isEmpty() ? bounds : screen.visibleFrame;
-        bounds.translate(-main.topLeft());
-        screen.visibleFrame = visible.translated(-main.topLeft());
-        screen.frame = QRectF(QPointF(bounds.x(), main.height() - bounds.bottom()), bounds.size());
-        ++index;
-        if (screen.displayID == 0)
-            screen.displayID = index;
-    }
-    return screens;
-}
 
 class FakeConfiguration final : public LMDisplayConfiguration {
 public:
@@ -28,13 +12,10 @@ public:
         : m_screens(screens), m_world(world) {}
 
     LMPlatformStatus configureDisplayOrigin(quint32 displayID, qint32 x, qint32 y) override {
-        for (const LMScreen& screen : std::as_const(m_world.screens)) {
-            if (screen.displayID == displayID) {
-                m_origins[displayID] = QPoint(x, y);
-                return LMPlatformStatus::success();
-            }
-        }
-        return LMPlatformStatus::failure(LMPlatformError::InvalidElement);
+        if (!std::ranges::count(m_world.screens, displayID, &LMScreen::displayID))
+            return LMPlatformStatus::failure(LMPlatformError::InvalidElement);
+        m_origins[displayID] = QPoint(x, y);
+        return LMPlatformStatus::success();
     }
 
     LMPlatformStatus completePermanently() override {
@@ -42,16 +23,12 @@ public:
             return LMPlatformStatus::failure(LMPlatformError::Failure);
         QList<LMScreen> screens = m_world.screens;
         for (LMScreen& screen : screens) {
-            const auto origin = m_origins.find(screen.displayID);
-            if (origin == m_origins.end())
+            if (!m_origins.contains(screen.displayID))
                 continue;
-            const QPointF offset = origin->second - screen.displayBounds.topLeft();
-            screen.displayBounds.translate(offset);
-            screen.visibleFrame.translate(offset);
-            m_world.log.add(QStringLiteral("arrange %1 %2,%3")
-                                .arg(screen.displayID)
-                                .arg(origin->second.x())
-                                .arg(origin->second.y()));
+            const QPoint origin = m_origins[screen.displayID];
+            screen.displayBounds.moveTopLeft(origin);
+            m_world.log.add(
+                u"arrange %1 %2,%3"_qs.arg(screen.displayID).arg(origin.x()).arg(origin.y()));
         }
         m_screens.setScreens(screens);
         // As on a real desktop, where the change comes to rest later.
@@ -84,5 +61,16 @@ QList<QStringList> LMFakeScreens::spacesByMonitor() {
 }
 
 void LMFakeScreens::setScreens(const QList<LMScreen>& screens) {
-    m_world.screens = completed(screens);
+    m_world.screens = screens;
+    const QRectF main = screens.isEmpty() ? QRectF() : screens.first().displayBounds;
+    quint32 number = 0;
+    for (LMScreen& screen : m_world.screens) {
+        QRectF& bounds = screen.displayBounds;
+        bounds.translate(-main.topLeft());
+        screen.visibleFrame = bounds;
+        screen.frame = QRectF(QPointF(bounds.x(), main.height() - bounds.bottom()), bounds.size());
+        ++number;
+        if (screen.displayID == 0)
+            screen.displayID = number;
+    }
 }

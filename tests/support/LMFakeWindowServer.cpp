@@ -2,6 +2,7 @@
 #include "support/LMFakeWindowServer.h"
 
 #include <algorithm>
+#include <functional>
 
 QList<LMWindowDescription> LMFakeWindowServer::onScreenWindowDescriptions() {
     QList<LMWindowDescription> descriptions;
@@ -10,12 +11,11 @@ QList<LMWindowDescription> LMFakeWindowServer::onScreenWindowDescriptions() {
     for (const quint32 number : std::as_const(m_world.stacking)) {
         const LMFakeWindow& window = m_world.windows[number];
         const LMFakeApplication* owner = m_world.application(window.bundleIdentifier);
-        if (m_world.isOnScreen(window) && owner)
+        if (!window.isMinimized && owner)
             descriptions.append(
                 {owner->processIdentifiers.first(), window.frame, number, window.layer});
     }
-    std::stable_sort(descriptions.begin(), descriptions.end(),
-                     [](const auto& a, const auto& b) { return a.layer > b.layer; });
+    std::ranges::stable_sort(descriptions, std::greater(), &LMWindowDescription::layer);
     return descriptions;
 }
 

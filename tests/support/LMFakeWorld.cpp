@@ -4,39 +4,24 @@
 #include <algorithm>
 
 LMFakeApplication* LMFakeWorld::application(const QString& bundleIdentifier) {
-    for (LMFakeApplication& application : applications) {
-        if (application.bundleIdentifier == bundleIdentifier)
-            return &application;
-    }
-    return nullptr;
+    const auto found =
+        std::ranges::find(applications, bundleIdentifier, &LMFakeApplication::bundleIdentifier);
+    return found != applications.end() ? &*found : nullptr;
 }
 
 LMFakeApplication* LMFakeWorld::application(qint64 processIdentifier) {
-    for (LMFakeApplication& application : applications) {
-        if (application.processIdentifiers.contains(processIdentifier))
-            return &application;
-    }
-    return nullptr;
+    const auto found = std::ranges::find_if(applications, [&](const auto& application) {
+        return application.processIdentifiers.contains(processIdentifier);
+    });
+    return found != applications.end() ? &*found : nullptr;
 }
 
 QList<quint32> LMFakeWorld::windowsOf(const LMFakeApplication& application) const {
-    QList<quint32> numbers;
-    for (const quint32 number : stacking) {
-        if (windows[number].bundleIdentifier == application.bundleIdentifier)
-            numbers.append(number);
-    }
+    QList<quint32> numbers = stacking;
+    numbers.removeIf([&](quint32 number) {
+        return windows[number].bundleIdentifier != application.bundleIdentifier;
+    });
     return numbers;
-}
-
-bool LMFakeWorld::isHidden(const LMFakeApplication& application) const {
-    const QList<quint32> numbers = windowsOf(application);
-    return !numbers.isEmpty() &&
-           std::all_of(numbers.begin(), numbers.end(),
-                       [this](quint32 number) { return windows[number].isMinimized; });
-}
-
-bool LMFakeWorld::isOnScreen(const LMFakeWindow& window) const {
-    return !window.isMinimized && window.virtualDesktop == 0;
 }
 
 void LMFakeWorld::raise(quint32 number) {
@@ -52,11 +37,7 @@ void LMFakeWorld::removeWindow(quint32 number) {
 }
 
 void LMFakeWorld::focusFrontWindow() {
-    focusedWindow.reset();
-    for (const quint32 number : stacking) {
-        if (isOnScreen(windows[number])) {
-            focusedWindow = number;
-            return;
-        }
-    }
+    const auto front = std::ranges::find_if(
+        stacking, [this](quint32 number) { return !windows[number].isMinimized; });
+    focusedWindow = front != stacking.end() ? std::optional(*front) : std::nullopt;
 }

@@ -26,17 +26,14 @@ struct LMFakeWindow {
     bool isModal = false;
     bool isMinimized = false;
     int layer = 0;
-    int virtualDesktop = 0; ///< Only windows of desktop 0 are on screen.
     bool hasImage = true;
 
     // How it resists.
     bool hasImmutablePosition = false;
     bool hasImmutableSize = false;
-    int ignoredSizeChanges = 0; ///< So many requests for a size succeed without effect.
-    QSizeF baseSize{0, 0};      ///< Sizes are base plus whole increments, rounded down.
-    QSizeF sizeIncrement{1, 1};
-    QSizeF minimumSize{1, 1};
-    int readsBeforeVanishing = -1; ///< The window is gone after so many reads; -1: stays.
+    int ignoredSizeChanges = 0;    ///< So many requests for a size succeed without effect.
+    QSizeF sizeIncrement{1, 1};    ///< Sizes are rounded down to whole increments.
+    int readsBeforeVanishing = -1; ///< The window is gone after so many reads; below 0: stays.
     bool neverAnswers = false;
 
     QString bundleIdentifier{}; ///< The owner, filled in by the desktop.
@@ -48,7 +45,7 @@ struct LMFakeApplication {
     QString localizedName;
     QList<qint64> processIdentifiers; ///< The oldest first.
     LMActivationPolicy activationPolicy = LMActivationPolicy::Regular;
-    QList<quint32> minimizedByHiding; ///< Window numbers.
+    QList<quint32> minimizedByHiding{}; ///< Window numbers.
 };
 
 /// The calls of the accessibility contract that can be made to fail.
@@ -78,8 +75,6 @@ struct LMFakeWorld {
     LMFakeApplication* application(qint64 processIdentifier);
     /// The numbers of its windows, front to back.
     QList<quint32> windowsOf(const LMFakeApplication& application) const;
-    bool isHidden(const LMFakeApplication& application) const;
-    bool isOnScreen(const LMFakeWindow& window) const;
     void raise(quint32 number);
     void removeWindow(quint32 number);
     /// Gives the focus to the front window that is on screen.

@@ -4,6 +4,7 @@
 #include "Platform/LMEnvironment.h"
 #include "Platform/LMKnownApplications.h"
 #include "support/LMFakeClock.h"
+#include "support/LMPrinting.h"
 #include "Utilities/LMFolders.h"
 #include "Utilities/LMLogger.h"
 #include "Utilities/LMNotificationCenter.h"
@@ -16,12 +17,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <ostream>
-
-// Lets failed expectations print texts.
-inline void PrintTo(const QString& text, std::ostream* stream) {
-    *stream << (text.isNull() ? "null" : '"' + text.toStdString() + '"');
-}
 
 /// Everything an environment is made of, for one test: folders and user defaults in a directory
 /// that goes with it, a clock that stands still, and the messages logged.

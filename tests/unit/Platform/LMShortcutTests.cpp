@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/LMShortcut.h"
 
+#include "support/LMPrinting.h"
 #include "Utilities/LMBinaryRecord.h"
 
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <random>
-
-inline void PrintTo(const QString& text, std::ostream* stream) {
-    *stream << text.toStdString();
-}
 
 namespace {
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "support/LMPrinting.h"
 #include "unit/Files.h"
 #include "Utilities/LMLogger.h"
 
@@ -9,13 +10,6 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
-
-#include <ostream>
-
-// Lets failed expectations print texts.
-inline void PrintTo(const QString& text, std::ostream* stream) {
-    *stream << (text.isNull() ? "null" : '"' + text.toStdString() + '"');
-}
 
 /// A directory that is removed after the test, and the messages logged during it.
 class TemporaryDirectoryTest : public testing::Test {
