@@ -60,6 +60,11 @@ class Events(unittest.TestCase):
             self.change_to(layout)
             self.stored = stored[layout]
             self.wait_until_back()
+        status = self.rook.report("status")
+        self.assertEqual((status["counts"]["workspaces"], status["currentWorkspace"]), (len(stored), "2 Displays"))
+        self.change_to("three")
+        self.assertIsNone(self.rook.report("status")["currentWorkspace"])
+        self.assertEqual(self.rook.run("restore-all").returncode, 1)
 
     def test_a_flickering_monitor_restores_once(self) -> None:
         self.open_and_store()
@@ -144,6 +149,7 @@ class Events(unittest.TestCase):
             assert self.rook.process
             self.rook.process.popen.send_signal(number)
             self.assertEqual(self.rook.process.popen.wait(20), 0)
+            self.assertEqual(self.rook.run("quit").returncode, 3)
             self.rook.start()
             self.assertEqual(self.rook.report("status")["counts"]["storedWindows"], len(WINDOWS))
 

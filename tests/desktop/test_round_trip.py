@@ -15,7 +15,7 @@ from rig.resident import Resident  # noqa: E402
 from rig.scenario import frames, open_windows, readings, scatter  # noqa: E402
 
 MANAGER = os.environ.get("ROOK_TEST_MANAGER", "openbox")
-ROUNDS = 10
+ROUNDS = 5
 
 
 class RoundTrip(unittest.TestCase):
