@@ -49,10 +49,9 @@ TEST_F(RestoringTest, ShowsAnApplicationWithFloatingWindows) {
 TEST_F(RestoringTest, ShowsAHiddenApplicationForAMoveAcrossSpaces) {
     const QList<QRectF> one{{0, 0, 1440, 900}}, two{one[0], {1440, 0, 1440, 900}};
     const std::tuple<QList<QRectF>, bool, double, bool> rows[] = {
-        {two, true, 1500, true},
-        {two, true, 1140, false}, // It ends with its screen.
-        {two, false, 1500, false},
-        {one, true, 1500, false},
+        {two, true, 1500, true},   {two, true, 1140, false}, // It ends with its screen.
+        {two, true, 1141, true},                             // It lies on both.
+        {two, false, 1500, false}, {one, true, 1500, false},
     };
     LMApplication& application = store({{u"A"_s, left}});
     for (const auto& [screens, haveSeparateSpaces, x, isShown] : rows) {

@@ -130,6 +130,7 @@ TEST_F(WorkspaceTest, ArrangesTheDisplaysAsTheyStood) {
         for (auto can : {&W::canArrangeDisplays, &W::beginsDisplayConfiguration,
                          &W::completesDisplayConfiguration}) {
             desktop.world().*can = false;
+            EXPECT_LE(record.canBecomeCurrentWorkspace(), desktop.world().canArrangeDisplays);
             record.makeCurrentWorkspace();
             EXPECT_EQ(record.isCurrentWorkspace(), wasCurrent);
             desktop.world().*can = true;

@@ -70,14 +70,14 @@ TEST(LMX11ApplicationTests, FindsTheProcessOfAWindow) {
 
 TEST(LMX11ApplicationTests, PicksTheBestOfAWindowsIcons) {
     std::vector<uint32_t> icons;
-    for (const auto& [width, height] : {std::pair(16u, 16u), {64u, 48u}, {32u, 32u}}) {
+    for (const auto& [width, height] : {std::pair(32u, 32u), {64u, 48u}, {16u, 16u}}) {
         icons.insert(icons.end(), {width, height});
         icons.insert(icons.end(), size_t(width) * height, width);
     }
     for (const auto& [wanted, width] : {std::pair(8, 16), {17, 32}, {256, 64}})
         EXPECT_EQ(LMX11BestIcon(icons, wanted).pixel(0, 0), QRgb(width)) << wanted;
     icons.pop_back();
-    EXPECT_EQ(LMX11BestIcon(icons, 32).size(), QSize(64, 48)) << "the last one is cut off";
+    EXPECT_EQ(LMX11BestIcon(icons, 16).size(), QSize(32, 32)) << "the last one is cut off";
     for (const std::vector<uint32_t>& malformed : std::initializer_list<std::vector<uint32_t>>{
              {}, {16}, {16, 16, 1}, {0, 0, 1}, {~0u, ~0u, 1}, {0x10000, 0x10000, 1}})
         EXPECT_TRUE(LMX11BestIcon(malformed, 16).isNull());
