@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Controller/LMHotKeyCenter.h"
 #include "Controller/LMHotKeyDefaults.h"
-#include "support/LMFakeDesktop.h"
-#include "support/LMTestEnvironment.h"
-#include "Utilities/LMUserDefaultsKeys.h"
+#include "unit/DesktopTest.h"
 
 namespace {
 
@@ -18,9 +16,9 @@ QVariant old(const QVariant& keyCode, const QVariant& modifierFlags = 0x100 + 0x
     return QVariantMap{{u"keyCode"_qs, keyCode}, {u"modifierFlags"_qs, modifierFlags}};
 }
 
-class LMHotKeysTest : public testing::Test {
+class LMHotKeysTest : public DesktopTest {
 protected:
-    void set(const QString& key, int code) { test.userDefaults.setObject(key, onKey(code).data()); }
+    void set(const QString& key, int code) { defaults.setObject(key, onKey(code).data()); }
     void type(int code) {
         desktop.hotKeys().press(onKey(code));
         desktop.hotKeys().release(onKey(code));
@@ -31,9 +29,7 @@ protected:
         return found == all.end() ? LMHotKeyReport() : *found;
     }
 
-    LMFakeDesktop desktop;
-    LMTestEnvironment test{desktop};
-    LMHotKeyCenter center{test.environment};
+    LMHotKeyCenter center{environment};
 };
 
 TEST_F(LMHotKeysTest, OldHotKeysAreConvertedOrRemovedOrLeft) {
@@ -53,13 +49,13 @@ TEST_F(LMHotKeysTest, OldHotKeysAreConvertedOrRemovedOrLeft) {
     for (const auto& [expected, stored] : rows) {
         for (const QVariant& value : stored) {
             const QString key = LMHotKeyDefaults::keys()[next++ % LMHotKeyDefaults::keys().size()];
-            test.userDefaults.setObject(key, value);
+            defaults.setObject(key, value);
             // What is read from the file has other types than what was just set.
-            LMUserDefaults fromFile(test.userDefaults.filePath(), test.logger);
-            for (LMUserDefaults* defaults : {&test.userDefaults, &fromFile}) {
-                const QVariant before = defaults->objectForKey(key);
-                LMHotKeyDefaults::updateOldHotKeyDefaults(*defaults);
-                EXPECT_EQ(defaults->objectForKey(key), expected == left ? before : expected)
+            LMUserDefaults fromFile(defaults.filePath(), test.logger);
+            for (LMUserDefaults* each : {&defaults, &fromFile}) {
+                const QVariant before = each->objectForKey(key);
+                LMHotKeyDefaults::updateOldHotKeyDefaults(*each);
+                EXPECT_EQ(each->objectForKey(key), expected == left ? before : expected)
                     << before.toString().toStdString();
             }
         }
@@ -93,9 +89,9 @@ TEST_F(LMHotKeysTest, AHotKeyFollowsItsSettingAndActsWhenItsTestSaysSo) {
     desktop.hotKeys().release(onKey(3));
     EXPECT_EQ(done.takeLast(), u"menu"_qs);
 
-    test.userDefaults.setObject(RestoreAllWindowsHotKey, QByteArray("garbage"));
+    defaults.setObject(RestoreAllWindowsHotKey, QByteArray("garbage"));
     EXPECT_EQ(report(RestoreAllWindowsHotKey).reason, u"The setting is no shortcut."_qs);
-    test.userDefaults.removeObject(StoreAllWindowsHotKey);
+    defaults.removeObject(StoreAllWindowsHotKey);
     context.reset();
     for (const int code : {1, 2, 3})
         type(code);
@@ -114,7 +110,7 @@ TEST_F(LMHotKeysTest, WhatIsRefusedSaysWhyAndWorksAsSoonAsItCan) {
     desktop.hotKeys().setHeldByAnotherProgram({});
     desktop.hotKeys().changeKeyboard();
     EXPECT_EQ(report(StoreAllWindowsHotKey).state, State::Registered);
-    test.userDefaults.removeObject(RestoreAllWindowsHotKey);
+    defaults.removeObject(RestoreAllWindowsHotKey);
     EXPECT_EQ(report(ShowMenuHotKey).state, State::Registered);
     EXPECT_EQ(report(ShowMenuHotKey).reason, QString());
 }

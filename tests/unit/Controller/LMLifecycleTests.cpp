@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "unit/Controller/ControllerTest.h"
+#include "unit/Files.h"
 
 #include "Controller/LMCrashReporter.h"
 #include "Controller/LMLauncherPrompt.h"
@@ -26,16 +27,7 @@ protected:
         ::qunsetenv("XDG_DATA_HOME");
         ::qunsetenv("XDG_DATA_DIRS");
     }
-    static QByteArray read(const QString& path) {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    const QString picture = test.path(u"Rook/Screenshots/a.png"_s);
-    void writePicture() {
-        QDir().mkpath(test.path(u"Rook/Screenshots"_s));
-        QFile file(picture);
-        file.open(QIODevice::WriteOnly);
-    }
+    const QString picture = test.folders.screenshotsDirectoryURL() + u"/a.png"_s;
 };
 
 TEST_F(LifecycleTest, ServesFromLaunchToTermination) {
@@ -57,7 +49,7 @@ TEST_F(LifecycleTest, ServesFromLaunchToTermination) {
     EXPECT_EQ(userInterface.calls, (QStringList{u"no icon"_s, u"menu"_s, u"reload"_s, u"list"_s}));
 
     store.managedObjectContext().insertObject<LMWorkspace>();
-    writePicture();
+    LMWriteFile(picture);
     delegate.applicationWillTerminate();
     EXPECT_FALSE(QFile::exists(picture)) << "cleaned";
     EXPECT_EQ(store.managedObjectContext().objects<LMWorkspace>().size(), 1U);
@@ -65,15 +57,10 @@ TEST_F(LifecycleTest, ServesFromLaunchToTermination) {
 }
 
 TEST_F(LifecycleTest, AStoreThatCannotBeHadEndsTheLaunchAndIsLeftAlone) {
-    writePicture();
-    QFile file(test.path(u"Rook/Stored Windows.sqlite"_s));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("not a store") > 0);
-    file.close();
+    LMWriteFile(picture);
+    LMWriteFile(test.folders.storedWindowsURL(), "not a store");
     EXPECT_FALSE(delegate.finishLaunching());
-    EXPECT_EQ(userInterface.alerts,
-              QStringList{u"Unable to load stored windows.|There may be a problem with your Stored "
-                          u"Windows.sqlite file. Please remove the current file and re-launch "
-                          u"Rook."_s});
+    EXPECT_TRUE(userInterface.alerts.value(0).startsWith(u"Unable to load stored windows.|There "));
     EXPECT_TRUE(delegate.launchFailure().contains(u"Unable to load"));
     delegate.applicationWillTerminate();
     EXPECT_EQ(userInterface.calls.last(), u"no icon"_s);
@@ -96,7 +83,7 @@ TEST_F(LifecycleTest, OffersALauncherOnceAndQuitsMeanwhile) {
     EXPECT_TRUE(defaults.boolForKey(Keys::moveToApplicationsFolderAlertSuppress));
     const QString entry = test.path(u"data/applications/org.rook.Rook.desktop"_s);
     const QString executable = QCoreApplication::applicationFilePath();
-    EXPECT_TRUE(read(entry).contains("\nExec=\"" + executable.toUtf8() + "\"\n"));
+    EXPECT_TRUE(LMFileContent(entry).contains("\nExec=\"" + executable.toUtf8() + "\"\n"));
     EXPECT_TRUE(LMHasLauncher(executable));
     EXPECT_EQ(LMExecOfArgument(uR"(/my $dir"/100%/r\k)"_s), uR"("/my \\$dir\\"/100%%/r\\\\k")"_s);
 
@@ -108,47 +95,26 @@ TEST_F(LifecycleTest, OffersALauncherOnceAndQuitsMeanwhile) {
     EXPECT_EQ(userInterface.alerts.size(), 1) << "neither where there is one, nor without windows";
 }
 
-TEST_F(LifecycleTest, WithoutWindowsWhatIsMeantToBeSeenIsRefused) {
-    userInterface.showsWindows = false;
-    LMDBusService& service = delegate.dbusService();
-    bool (LMDBusService::*const methods[])() = {
-        &LMDBusService::ShowMenu,          &LMDBusService::LinkActiveWindow,
-        &LMDBusService::ShowStoredWindows, &LMDBusService::ShowPreferences,
-        &LMDBusService::ShowAbout,         &LMDBusService::CheckForUpdates};
-    for (const auto method : methods) {
-        EXPECT_FALSE((service.*method)());
-        EXPECT_EQ(service.lastRefusal(), u"This Rook was started without windows."_s);
-    }
-}
-
 int overflow(int depth) {
     volatile char frame[4096] = {char(depth)};
     return depth < 0 ? frame[0] : overflow(depth + 1) + frame[0];
 }
 
 TEST_F(LifecycleTest, CrashesLeaveAReport) {
-    QDir directory(test.path(u"Logs"_s));
-    directory.mkpath(u"."_s);
+    const QDir directory(test.folders.logsDirectoryURL());
     for (int i = 0; i < 20; ++i)
-        QFile(directory.filePath(u"Crash %1.txt"_s.arg(i))).open(QIODevice::WriteOnly);
+        LMWriteFile(directory.filePath(u"Crash %1.txt"_s.arg(i)));
     if (!LMCrashReporter::install(directory.path(), u"1.0"_s))
         GTEST_SKIP() << "a sanitizer watches";
-    const struct {
-        int signal;
-        std::function<void()> crash;
-    } rows[] = {{SIGABRT, [] { std::abort(); }},
-                {SIGFPE, [] { ::raise(SIGFPE); }},
-                {SIGSEGV, [] { overflow(1); }}};
-    for (const auto& row : rows) {
-        EXPECT_EXIT(
-            {
-                const auto reporter = LMCrashReporter::install(directory.path(), u"1.0"_s);
-                row.crash();
-            },
-            testing::KilledBySignal(row.signal), "");
+    const auto crash = [&](int signal) {
+        const auto reporter = LMCrashReporter::install(directory.path(), u"1.0"_s);
+        signal == SIGSEGV ? overflow(1) : ::raise(signal);
+    };
+    for (const int signal : {SIGABRT, SIGFPE, SIGSEGV}) {
+        EXPECT_EXIT(crash(signal), testing::KilledBySignal(signal), "");
         const QStringList names = directory.entryList({u"Crash 2*.txt"_s}, QDir::Files, QDir::Time);
-        const QByteArray report = read(directory.filePath(names.value(0)));
-        EXPECT_TRUE(report.contains("Signal 0x" + QByteArray::number(row.signal, 16) + '\n'));
+        const QByteArray report = LMFileContent(directory.filePath(names.value(0)));
+        EXPECT_TRUE(report.contains("Signal 0x" + QByteArray::number(signal, 16) + '\n'));
         EXPECT_GT(report.count("\nFrame 0x"), 3);
         EXPECT_TRUE(report.startsWith("Rook 1.0, process "));
     }

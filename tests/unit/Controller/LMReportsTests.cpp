@@ -40,17 +40,4 @@ TEST_F(ControllerTest, PlanTellsWhatARestoreWouldDoAndChangesNothing) {
     EXPECT_EQ(events(), QString()) << "a dry run must touch nothing";
 }
 
-TEST_F(ControllerTest, ReportsCountWhatIsThere) {
-    perform("SAll");
-    const QJsonObject status = LMReports::status(delegate.commandParts(), delegate.hotKeyCenter());
-    EXPECT_EQ(status[u"counts"][u"storedWindows"].toInt(), 3);
-    EXPECT_EQ(status[u"currentWorkspace"].toString(), u"1 Display"_s);
-    EXPECT_TRUE(status[u"permission"][u"trusted"].toBool());
-    const QJsonObject list = LMReports::list(delegate.commandParts());
-    EXPECT_TRUE(list[u"workspaces"][0][u"current"].toBool());
-    EXPECT_EQ(list[u"workspaces"][0][u"applications"].toArray().size(), 2);
-    const QJsonObject windows = LMReports::windows(delegate.commandParts());
-    EXPECT_EQ(windows[u"applications"][0][u"windows"].toArray().size(), 2);
-}
-
 } // namespace

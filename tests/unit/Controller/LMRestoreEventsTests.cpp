@@ -6,7 +6,6 @@
 #include "Model/Store/LMObjectContext.h"
 
 #include <cmath>
-#include <limits>
 
 namespace {
 
@@ -27,51 +26,50 @@ protected:
         userInterface.calls.clear();
     }
     bool isBack() { return desktop.window(draft).frame == QRectF(10, 20, 300, 200); }
-    qsizetype pauses() { return desktop.log().events(u"sleep"_s).size(); }
+    qsizetype pauses() { return desktop.log().events().filter(u"sleep"_s).size(); }
     void changeDisplays(const QList<QRectF>& bounds) {
         desktop.setScreens(bounds);
         desktop.announceScreenChange();
     }
+    void launch(const QString& identifier) { restoreEvents.userLaunchedApplication(identifier); }
     LMWorkspace* workspace() { return delegate.commandParts().workspaceList.currentWorkspace(); }
-    static void runLoop() { QCoreApplication::processEvents(); }
 
+    const QString editor = u"org.editor"_s;
     LMRestoreEvents& restoreEvents = delegate.restoreEvents();
     const QRectF main{0, 0, 1440, 900}, right{1440, 0, 1920, 1080};
 };
 
 TEST_F(RestoreEventsTest, AnApplicationThatLaunchesIsRestoredOnce) {
-    restoreEvents.userLaunchedApplication(u"org.editor"_s);
+    launch(editor);
     EXPECT_EQ(pauses(), 0) << "not before the delay";
     EXPECT_TRUE(wait([this] { return isBack(); }));
     EXPECT_EQ(pauses(), 1);
 
     moveAway();
-    restoreEvents.userLaunchedApplication(u"org.none"_s);
+    launch(u"org.none"_s);
     defaults.setObject(Keys::RestoreWindowsAsApplicationsLaunch, false);
-    restoreEvents.userLaunchedApplication(u"org.editor"_s);
-    runLoop();
+    launch(editor);
+    QCoreApplication::processEvents();
     EXPECT_FALSE(isBack());
-}
 
-TEST_F(RestoreEventsTest, AWorkspaceThatIsGoneWhenTheTimeComesRestoresNothing) {
-    restoreEvents.userLaunchedApplication(u"org.editor"_s);
+    defaults.setObject(Keys::RestoreWindowsAsApplicationsLaunch, true);
+    launch(editor); // The workspace is gone when the time comes.
     store.managedObjectContext().deleteObject(workspace());
     store.saveWindows();
-    restoreEvents.userLaunchedApplication(u"org.editor"_s); // Without a workspace.
-    runLoop();
+    launch(editor);
+    QCoreApplication::processEvents();
     EXPECT_FALSE(isBack());
 }
 
 TEST_F(RestoreEventsTest, DelaysThatMakeNoSenseBecomeSome) {
-    using namespace std::chrono_literals;
-    const struct {
-        double seconds;
-        std::chrono::milliseconds delay;
-    } rows[] = {{2.5, 2500ms},  {0, 0ms},
-                {-1, 0ms},      {std::nan(""), 0ms},
-                {1e300, 3600s}, {std::numeric_limits<double>::infinity(), 3600s}};
-    for (const auto& row : rows)
-        EXPECT_EQ(LMRestoreEvents::launchRestoreDelay(row.seconds), row.delay) << row.seconds;
+    for (const auto& [seconds, delay] :
+         std::initializer_list<std::pair<double, int>>{{2.5, 2500},
+                                                       {0, 0},
+                                                       {-1, 0},
+                                                       {std::nan(""), 0},
+                                                       {1e300, 3600'000},
+                                                       {HUGE_VAL, 3600'000}})
+        EXPECT_EQ(LMRestoreEvents::launchRestoreDelay(seconds).count(), delay) << seconds;
 }
 
 TEST_F(RestoreEventsTest, ChangedDisplaysAreRestoredOncePerChange) {
@@ -90,9 +88,9 @@ TEST_F(RestoreEventsTest, ChangedDisplaysAreRestoredOncePerChange) {
     action->setLabel(u"Beep"_s);
     desktop.announceScreenChange();
     EXPECT_TRUE(isBack());
-    EXPECT_TRUE(test.hasLogged(u"Running the action “Beep” of “1 Display”"_s));
-    EXPECT_EQ(environment.activity.recent().at(1).label,
-              u"Running the action “Beep” of “1 Display”…"_s);
+    const QString label = u"Running the action “Beep” of “1 Display”…"_s;
+    EXPECT_TRUE(test.hasLogged(label));
+    EXPECT_EQ(environment.activity.recent().at(1).label, label);
 }
 
 TEST_F(RestoreEventsTest, ChangesWhileRestoringIsOffAreNotMadeUpFor) {
@@ -102,32 +100,28 @@ TEST_F(RestoreEventsTest, ChangesWhileRestoringIsOffAreNotMadeUpFor) {
     defaults.setObject(Keys::RestoreWindowsAutomatically, true);
     desktop.announceScreenChange();
     EXPECT_FALSE(isBack());
-    EXPECT_EQ(restoreEvents.previousDisplayConfiguration(),
-              QStringList{u"{{0, 0}, {1440, 900}}"_s});
 }
 
 TEST_F(RestoreEventsTest, WhatArrivesDuringAnAlertWaitsOrIsRefused) {
     userInterface.duringModal = [this] {
-        for (const char* code : {"RAll", "RApp", "SApp", "SWin", "SAll"}) {
+        for (const char* code : {"RAll", "RApp", "SApp", "SWin", "SAll"})
             EXPECT_TRUE(perform(code).refusal.contains(u"Rook is asking")) << code;
-        }
         LMDBusService& service = delegate.dbusService();
-        EXPECT_FALSE(service.LinkActiveWindow() || service.ShowAbout() ||
-                     service.ShowStoredWindows());
+        EXPECT_FALSE(service.LinkActiveWindow() || service.ShowAbout());
         EXPECT_TRUE(service.Status().contains(u"Storing Windows for All Applications…"));
         delegate.userCommands().performIfAvailable(LMMenuCommand::RestoreAllWindows);
         desktop.setScreens({main, right}); // There and back again.
         desktop.announceScreenChange();
         changeDisplays({main});
-        restoreEvents.userLaunchedApplication(u"org.editor"_s);
-        restoreEvents.userLaunchedApplication(u"org.editor"_s);
-        runLoop();
+        launch(editor);
+        launch(editor);
+        QCoreApplication::processEvents();
         EXPECT_TRUE(desktop.log().events().isEmpty());
         EXPECT_TRUE(userInterface.calls.isEmpty());
     };
     EXPECT_FALSE(delegate.userCommands().perform(LMMenuCommand::StoreAllWindows).isDone);
     EXPECT_TRUE(wait([this] { return isBack(); }));
-    runLoop();
+    QCoreApplication::processEvents();
     EXPECT_EQ(pauses(), 1) << "one launch is one restore";
 }
 

@@ -50,8 +50,7 @@ TEST_F(ActionTest, ShellScriptsRunUnderTheirInterpreter) {
         {u"#! /bin/sh\necho"_s, error + u" /bin/sh is not executable"_s},
         {u"#!/etc\r\necho"_s, error + u"/etc is not executable"_s},
         {u"#!/bin/sh\recho hi"_s, u"Failed to run shell script"_s},
-        {u"#!/bin/sh\r\necho hi\r\n"_s,
-         u"Failed to run shell script"_s}, // The kernel takes the CR along.
+        {u"#!/bin/sh\r\necho hi\r\n"_s, u"Failed to run shell script"_s}, // The kernel takes CRs.
         {u"echo hi\r\n"_s, u"> hi\\r\\n"_s, u"#!/bin/bash\n\necho hi\r\n"_s},
         {u"#!/bin/sh\0x\necho"_s, error + u"/bin/sh\\u0000x is not executable"_s},
         {u"x\xd800y"_s, {}, u"#!/bin/bash\n\nx\xd800y"_s}, // Not to be written as UTF-8.
@@ -69,20 +68,18 @@ TEST_F(ActionTest, ShellScriptsRunUnderTheirInterpreter) {
 
 TEST_F(ActionTest, IconsAreThoseOfScriptsAndPrograms) {
     ::qputenv("XDG_DATA_DIRS", QFile::encodeName(test.directory.path()));
-    const QString folder = test.path(u"icons/hicolor/48x48/mimetypes"_s);
-    QDir().mkpath(folder);
-    QFile index(test.path(u"icons/hicolor/index.theme"_s));
-    ASSERT_TRUE(index.open(QIODevice::WriteOnly));
-    index.write("[Icon Theme]\nName=H\nDirectories=48x48/mimetypes\n[48x48/mimetypes]\nSize=48\n");
-    index.close();
+    QDir().mkpath(test.path(u"icons/hicolor/48"_s));
+    LMWriteFile(test.path(u"icons/hicolor/index.theme"_s),
+                "[Icon Theme]\nDirectories=48\n[48]\nSize=48\n");
     QImage script(48, 48, QImage::Format_ARGB32);
     script.fill(Qt::red);
-    ASSERT_TRUE(script.save(folder + u"/text-x-script.png"_s));
-    action->setRunAs(u"AppleScript"_s);
-    EXPECT_EQ(action->icon().pixelColor(24, 24), QColor(Qt::red));
-    action->setRunAs(u"Shell Script"_s);
-    EXPECT_NE(action->icon().pixelColor(24, 24), QColor(Qt::red)) << "built in: no theme has it";
-    EXPECT_EQ(action->icon().deviceIndependentSize(), QSizeF(16, 16));
+    ASSERT_TRUE(script.save(test.path(u"icons/hicolor/48/text-x-script.png"_s)));
+    for (const auto& [kind, isRed] :
+         {std::pair(u"AppleScript"_s, true), {u"Shell Script"_s, false}}) {
+        action->setRunAs(kind); // No theme has an icon for the second: it is built in.
+        EXPECT_EQ(action->icon().pixelColor(24, 24) == QColor(Qt::red), isRed);
+        EXPECT_EQ(action->icon().deviceIndependentSize(), QSizeF(16, 16));
+    }
     ::qunsetenv("XDG_DATA_DIRS");
 }
 
