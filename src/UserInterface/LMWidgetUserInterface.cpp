@@ -25,13 +25,12 @@ void LMWidgetUserInterface::followAppearance() {
 }
 
 LMProgressWindow& LMWidgetUserInterface::progressWindow() {
-    closeStoredWindowPicker();
+    closeStoredWindowPicker(); // What it shows is about to change.
     followAppearance();
     return m_progressWindowController;
 }
 
 LMAlertAnswer LMWidgetUserInterface::runModal(const LMAlert& alert) {
-    closeStoredWindowPicker();
     followAppearance();
     LMAlertWindow window(alert);
     window.adjustSize();
@@ -74,12 +73,10 @@ void LMWidgetUserInterface::removeStatusItem() {
 }
 
 void LMWidgetUserInterface::displayMenuAtCursor(LMStatusMenu& menu) {
-    closeStoredWindowPicker();
     popUpMenu(menu).popUpAtCursor();
 }
 
 void LMWidgetUserInterface::showAboutPanel() {
-    closeStoredWindowPicker();
     followAppearance();
     m_aboutWindowController.showWindow();
     LMBringToFront(*m_aboutWindowController.window(), m_environment.desktop);
@@ -96,7 +93,6 @@ void LMWidgetUserInterface::showStoredWindowPicker(LMWorkspace& workspace,
     m_storedWindowPicker->showWindow();
 }
 
-// Whatever else comes to the front calls it, too: it would be below, and without the keyboard.
 void LMWidgetUserInterface::closeStoredWindowPicker() {
     if (m_storedWindowPicker)
         m_storedWindowPicker->close(false);

@@ -48,6 +48,13 @@ LMPickableWindow pickable(LMStoredWindow& storedWindow) {
             matching.empty() ? QString() : matching.front()->screenshotPath()};
 }
 
+/// A window of ours besides those of the picker.
+bool isOtherWindow(const QObject* object) {
+    const auto* widget = qobject_cast<const QWidget*>(object);
+    return widget != nullptr && widget->isWindow() && widget->windowType() != Qt::ToolTip &&
+           qobject_cast<const LMFullscreenWindow*>(widget) == nullptr;
+}
+
 } // namespace
 
 LMStoredWindowPicker::LMStoredWindowPicker(LMEnvironment& environment, LMStoredWindowsStore& store,
@@ -76,7 +83,6 @@ LMStoredWindowPicker::LMStoredWindowPicker(LMEnvironment& environment, LMStoredW
     for (const auto change : {&QGuiApplication::screenAdded, &QGuiApplication::screenRemoved,
                               &QGuiApplication::primaryScreenChanged})
         connect(qGuiApp, change, this, [this] { close(false); });
-    m_window.installEventFilter(this);
 }
 
 LMStoredWindowPicker::~LMStoredWindowPicker() {
@@ -170,6 +176,7 @@ void LMStoredWindowPicker::showWindow() {
     if (m_alpha < 1)
         fadeTo(1);
     m_isOpen = true;
+    qApp->installEventFilter(this);
     m_view->lockKeyboardFocus();
     m_forgotten.start();
 }
@@ -186,6 +193,7 @@ void LMStoredWindowPicker::orderFront() {
 
 void LMStoredWindowPicker::close(bool animated) {
     m_view->unlockKeyboardFocus();
+    qApp->removeEventFilter(this);
     m_forgotten.stop();
     const bool wasOpen = std::exchange(m_isOpen, false);
     if (!animated)
@@ -221,10 +229,18 @@ void LMStoredWindowPicker::choose(const LMObjectID& storedWindow) {
     m_chosen = storedWindow;
 }
 
+/// Sees all events of the program as long as the picker is open.
 bool LMStoredWindowPicker::eventFilter(QObject* object, QEvent* event) {
-    // Keys come to the window when its view has not got the focus of the toolkit.
-    if (event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease ||
-        event->type() == QEvent::ShortcutOverride)
-        return QCoreApplication::sendEvent(m_view, event);
-    return QObject::eventFilter(object, event);
+    switch (event->type()) {
+    case QEvent::Show: // Whatever it is would be below the overlay, and without the keyboard.
+        if (isOtherWindow(object))
+            close(false);
+        return false;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride: // To the window, when its view has not got the focus.
+        return object == &m_window && QCoreApplication::sendEvent(m_view, event);
+    default:
+        return false;
+    }
 }

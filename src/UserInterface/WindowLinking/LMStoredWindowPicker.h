@@ -28,7 +28,7 @@ struct LMEnvironment;
 /// dimmed and no key reaches any other program.
 ///
 /// While it is open records come and go. It holds identifiers, resolves them when they are needed,
-/// and reads the focused window again then.
+/// and reads the focused window again then. It goes away when another window of this program comes.
 class LMStoredWindowPicker final : public QObject {
     Q_OBJECT
 public:

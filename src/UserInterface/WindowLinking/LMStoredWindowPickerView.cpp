@@ -7,7 +7,6 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QStringBuilder>
 #include <QToolTip>
 #include <QWindow>
 
@@ -110,8 +109,7 @@ void LMStoredWindowPickerView::highlight(LMStoredWindowPickerWindowView* windowV
 void LMStoredWindowPickerView::showWholeLabel(const QPoint& globalPlace) {
     if (!m_highlighted || m_highlighted->isLabelWhole())
         return;
-    const QString label = LMPresentableText(m_highlighted->storedWindow().label, 500, 1);
-    QToolTip::showText(globalPlace, u"<p>" % label.toHtmlEscaped() % u"</p>", this,
+    QToolTip::showText(globalPlace, LMPresentableToolTip(m_highlighted->storedWindow().label), this,
                        m_highlighted->screenshotRectInParent().toAlignedRect());
 }
 
