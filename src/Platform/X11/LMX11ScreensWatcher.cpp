@@ -73,7 +73,7 @@ void LMX11ScreensWatcher::noteRootSize(const QSizeF& pixels, const QSizeF& milli
 }
 
 void LMX11ScreensWatcher::noteMonitorState(const xcb_randr_crtc_change_t& change) {
-    const QPair state(change.mode, QRect(change.x, change.y, change.width, change.height));
+    const std::pair state(change.mode, QRect(change.x, change.y, change.width, change.height));
     const auto known = m_monitorStates.constFind(change.crtc);
     m_haveFlickered |= known != m_monitorStates.constEnd() && *known != state;
     m_monitorStates.insert(change.crtc, state);

@@ -43,7 +43,7 @@ private:
     QTimer m_timer;
     /// What each CRTC was reported to show since the burst began (mode, place, size), and whether
     /// any was reported to show two different things.
-    QHash<xcb_randr_crtc_t, QPair<xcb_randr_mode_t, QRect>> m_monitorStates;
+    QHash<xcb_randr_crtc_t, std::pair<xcb_randr_mode_t, QRect>> m_monitorStates;
     bool m_haveFlickered = false;
     QSizeF m_millimetresPerPixel;
 };
