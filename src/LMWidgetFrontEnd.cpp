@@ -10,6 +10,8 @@
 #include <QIcon>
 #include <QSessionManager>
 
+#include <malloc.h>
+
 namespace {
 
 /// The theme plug-in for GTK desktops loads all of GTK: 70 MB for a program that waits in the panel
@@ -18,6 +20,14 @@ namespace {
 bool wantsDesktopSettings() {
     const QByteArrayList desktops = qgetenv("XDG_CURRENT_DESKTOP").toUpper().split(':');
     return desktops.contains("KDE") || qEnvironmentVariableIsSet("QT_QPA_PLATFORMTHEME");
+}
+
+/// Pictures of screens and windows take megabytes for a moment. Once the first of them is freed,
+/// the C library would keep room for the next one for good, unless its threshold is set.
+void returnLargeBlocksWhenFreed() {
+#ifdef M_MMAP_THRESHOLD
+    mallopt(M_MMAP_THRESHOLD, 1024 * 1024);
+#endif
 }
 
 QIcon applicationIcon() {
@@ -55,6 +65,7 @@ LMFrontEnd::LMFrontEnd(int argc, char** argv, bool showsWindows)
             m_arguments.push_back(word.data());
     m_argumentCount = int(m_arguments.size());
     m_arguments.push_back(nullptr);
+    returnLargeBlocksWhenFreed();
     m_application = makeApplication(m_argumentCount, m_arguments.data(), showsWindows);
 }
 
