@@ -4,12 +4,14 @@
 #include "Model/LMMutableSet.h"
 #include "Model/Store/LMManagedObject.h"
 
+#include <QList>
 #include <QString>
 
 class LMAction;
 class LMApplication;
 class LMDisplay;
 class LMProgress;
+struct LMScreen;
 
 /// The stored layout of one display configuration.
 class LMWorkspace final : public LMManagedObject {
@@ -78,5 +80,5 @@ private:
     std::vector<LMAction*> m_actions;
 };
 
-/// Whether the attached screens can be arranged as the displays stood.
-bool LMDisplaysCanBeArranged(const std::vector<LMDisplay*>& displays, LMEnvironment& environment);
+/// Whether the screens can be arranged as the displays stood, by a desktop that can arrange any.
+bool LMDisplaysCanBeArranged(const std::vector<LMDisplay*>& displays, QList<LMScreen> screens);

@@ -85,11 +85,8 @@ bool configureOrigins(LMDisplayConfiguration& configuration, const std::vector<Q
 
 } // namespace
 
-bool LMDisplaysCanBeArranged(const std::vector<LMDisplay*>& displays, LMEnvironment& environment) {
-    LMScreens& platform = environment.desktop.screens();
-    QList<LMScreen> screens = platform.screens();
-    if (!platform.canArrangeDisplays() || displays.size() < 2 ||
-        displays.size() != static_cast<std::size_t>(screens.size()))
+bool LMDisplaysCanBeArranged(const std::vector<LMDisplay*>& displays, QList<LMScreen> screens) {
+    if (displays.size() < 2 || displays.size() != static_cast<std::size_t>(screens.size()))
         return false;
     for (const QRectF& bounds : boundsMainFirst(displays)) {
         if (isAtOrigin(bounds)) {
@@ -114,7 +111,9 @@ bool LMWorkspace::isCurrentWorkspace() const {
 }
 
 bool LMWorkspace::canBecomeCurrentWorkspace() const {
-    return !isCurrentWorkspace() && LMDisplaysCanBeArranged(m_displays, environment());
+    LMScreens& platform = environment().desktop.screens();
+    return !isCurrentWorkspace() && platform.canArrangeDisplays() &&
+           LMDisplaysCanBeArranged(m_displays, platform.screens());
 }
 
 void LMWorkspace::makeCurrentWorkspace() {
