@@ -24,14 +24,15 @@ constexpr int MostInformativeLines = 10;
 
 } // namespace
 
-LMAlertWindow::LMAlertWindow(const LMAlert& alert)
-    : QDialog(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                           Qt::WindowCloseButtonHint | Qt::WindowStaysOnTopHint),
+LMAlertWindow::LMAlertWindow(const LMAlert& alert, QWidget* sheetOf)
+    : QDialog(sheetOf, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                           Qt::WindowCloseButtonHint |
+                           (sheetOf ? Qt::WindowFlags() : Qt::WindowStaysOnTopHint)),
       m_buttonBox(new QDialogButtonBox(this)) {
     setObjectName(QStringLiteral("alertWindow"));
     setWindowRole(objectName());
     setWindowTitle(QStringLiteral("Rook"));
-    setModal(true);
+    setWindowModality(sheetOf ? Qt::WindowModal : Qt::ApplicationModal);
 
     auto* icon = new QLabel(this);
     icon->setPixmap(windowIcon().pixmap(QSize(IconEdge, IconEdge), devicePixelRatioF()));

@@ -55,3 +55,15 @@ void LMBringToFront(QWidget& window, LMDesktop& desktop) {
     window.winId(); // The window must exist for its events to be seen.
     new Activation(window, desktop);
 }
+
+void LMPresentWindow(QWidget& window, LMDesktop& desktop) {
+    const bool isNew = window.windowHandle() == nullptr;
+    if (window.isVisible() && window.isActiveWindow() && !window.isMinimized())
+        return;
+    window.hide(); // One that is mapped anew comes to the virtual desktop in use.
+    if (isNew || QGuiApplication::screenAt(window.geometry().center()) == nullptr)
+        LMCentreWindow(window);
+    window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+    window.show();
+    LMBringToFront(window, desktop);
+}

@@ -18,3 +18,8 @@ void LMCentreWindow(QWidget& window);
 /// guard the user against windows that push themselves forward, and to them Rook has not had the
 /// user's attention lately, since hot keys and trays are not input to its windows.
 void LMBringToFront(QWidget& window, LMDesktop& desktop);
+
+/// Shows a window that is kept while it is closed: on the virtual desktop in use, in front, with
+/// the focus. It opens in the middle of the screen the first time, and where it was after that, as
+/// long as there is a screen.
+void LMPresentWindow(QWidget& window, LMDesktop& desktop);
