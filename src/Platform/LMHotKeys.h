@@ -20,6 +20,14 @@ QString LMHotKeyRefusalText(LMHotKeyRefusal refusal, const LMShortcut& shortcut)
 
 using LMHotKeyStatus = LMResult<void, LMHotKeyRefusal>;
 
+/// A key that was pressed in a window of ours, as shortcuts name it.
+struct LMKeyPress {
+    quint32 keysym = 0;        ///< What the key produces without modifiers, see LMKeyTable.
+    quint32 modifierFlags = 0; ///< What was held when it was pressed.
+
+    bool operator==(const LMKeyPress&) const = default;
+};
+
 /// Shortcuts that reach this program whatever application has the focus.
 ///
 /// A hot key is known by an identifier of the caller's choice and stays registered until it is
@@ -39,6 +47,12 @@ public:
 
     /// Lets go of it; an unknown identifier is ignored.
     virtual void unregisterHotKey(const QString& identifier) = 0;
+
+    /// What the user pressed when the toolkit reports a key with this scan code and these
+    /// modifiers, both as the display system has them (QKeyEvent's native ones). A hot key with the
+    /// answer's key and modifiers is pressed by the same again: Shift and the layout change what a
+    /// key types, not which key it is. Nothing when that cannot be told.
+    virtual std::optional<LMKeyPress> keyPress(quint32 nativeScanCode, quint32 nativeModifiers) = 0;
 
 Q_SIGNALS:
     /// The user has pressed the shortcut. Emitted once, however long it is held.

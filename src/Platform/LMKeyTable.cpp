@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/LMKeyTable.h"
 
+#include "Platform/LMShortcut.h"
 #include "Utilities/LMFormat.h"
 
 #include <QChar>
@@ -136,6 +137,16 @@ bool LMKeyTable::isKey(quint32 keysym) {
     const bool isControlCharacter = keysym < 0x20 || isIn(keysym, 0x7f, 0x9f);
     return !isModifier && !isDead && !isControlCharacter && keysym != voidSymbol &&
            (keysym & protocolMask) == keysym;
+}
+
+quint32 LMKeyTable::modifierFlag(quint32 keysym) {
+    if (isIn(keysym, 0xffe1, 0xffe2))
+        return LMModifier::Shift;
+    if (isIn(keysym, 0xffe3, 0xffe4))
+        return LMModifier::Control;
+    if (isIn(keysym, 0xffe7, 0xffea)) // Meta stands on the same key as Alt.
+        return LMModifier::Option;
+    return isIn(keysym, 0xffeb, 0xffee) ? LMModifier::Command : 0; // Super and Hyper.
 }
 
 bool LMKeyTable::isFunctionKey(quint32 keysym) {

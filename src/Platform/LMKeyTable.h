@@ -23,6 +23,9 @@ quint32 canonicalKeysym(quint32 keysym);
 /// Whether the number is a keysym that a key can have, other than a modifier or a lock.
 bool isKey(quint32 keysym);
 
+/// The flag of LMModifier that the key stands for while it is held; 0 for other keys and for locks.
+quint32 modifierFlag(quint32 keysym);
+
 /// Keys that neither type nor edit nor move anything in text: function keys, multimedia keys and
 /// the like. Only these may be taken from all programs without a modifier.
 bool isFunctionKey(quint32 keysym);

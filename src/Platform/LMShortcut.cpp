@@ -60,15 +60,21 @@ std::optional<LMShortcut> LMShortcut::fromData(const QByteArray& data) {
 }
 
 QString LMShortcut::description() const {
+    QStringList parts{LMKeyTable::name(keysym())};
+    if (m_modifierFlags != 0)
+        parts.prepend(modifiersDescription(m_modifierFlags));
+    return parts.join(QLatin1Char('+'));
+}
+
+QString LMShortcut::modifiersDescription(quint32 modifierFlags) {
     QStringList parts;
-    if ((m_modifierFlags & LMModifier::Command) != 0)
+    if ((modifierFlags & LMModifier::Command) != 0)
         parts.append(LMLocalized("Super"));
-    if ((m_modifierFlags & LMModifier::Control) != 0)
+    if ((modifierFlags & LMModifier::Control) != 0)
         parts.append(LMLocalized("Ctrl"));
-    if ((m_modifierFlags & LMModifier::Option) != 0)
+    if ((modifierFlags & LMModifier::Option) != 0)
         parts.append(LMLocalized("Alt"));
-    if ((m_modifierFlags & LMModifier::Shift) != 0)
+    if ((modifierFlags & LMModifier::Shift) != 0)
         parts.append(LMLocalized("Shift"));
-    parts.append(LMKeyTable::name(keysym()));
     return parts.join(QLatin1Char('+'));
 }

@@ -46,6 +46,8 @@ public:
 
     /// For people, in their language: "Ctrl+Alt+R".
     QString description() const;
+    /// The same for the modifiers alone: "Ctrl+Alt".
+    static QString modifiersDescription(quint32 modifierFlags);
 
     bool operator==(const LMShortcut&) const = default;
 

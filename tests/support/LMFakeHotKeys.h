@@ -13,6 +13,10 @@ public:
     bool isAvailable() const override { return true; }
     LMHotKeyStatus registerHotKey(const QString& identifier, const LMShortcut& shortcut) override;
     void unregisterHotKey(const QString& identifier) override;
+    /// Its keys have their keysyms for scan codes, and its modifiers their flags.
+    std::optional<LMKeyPress> keyPress(quint32 scanCode, quint32 modifiers) override {
+        return LMKeyPress{scanCode, modifiers};
+    }
 
     // --- for tests ----------------------------------------------------------------------------
     /// Presses and releases; nothing happens when no hot key has the shortcut.

@@ -54,6 +54,24 @@ void LMX11HotKeys::unregisterHotKey(const QString& identifier) {
     update();
 }
 
+std::optional<LMKeyPress> LMX11HotKeys::keyPress(quint32 nativeScanCode, quint32 nativeModifiers) {
+    // The state of a key event: modifiers, pointer buttons, and the layout in use (X Keyboard
+    // Extension, section 17.1.1).
+    constexpr int layoutShift = 13;
+    constexpr quint32 layoutMask = 3;
+    if (!m_keyMap)
+        m_keyMap = LMX11KeyMap::read(m_connection);
+    if (!m_keyMap || nativeScanCode > 0xff)
+        return std::nullopt;
+    const quint32 keysym =
+        m_keyMap->keysym(static_cast<xcb_keycode_t>(nativeScanCode),
+                         static_cast<int>(nativeModifiers >> layoutShift & layoutMask));
+    if (keysym == 0)
+        return std::nullopt;
+    return LMKeyPress{
+        keysym, m_keyMap->modifierFlags(static_cast<uint16_t>(nativeModifiers & allModifiers))};
+}
+
 std::vector<LMX11HotKeys::HotKey>::iterator LMX11HotKeys::find(const QString& identifier) {
     return std::ranges::find(m_hotKeys, identifier, &HotKey::identifier);
 }

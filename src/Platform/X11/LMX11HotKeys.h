@@ -22,6 +22,7 @@ public:
     bool isAvailable() const override { return true; }
     LMHotKeyStatus registerHotKey(const QString& identifier, const LMShortcut& shortcut) override;
     void unregisterHotKey(const QString& identifier) override;
+    std::optional<LMKeyPress> keyPress(quint32 nativeScanCode, quint32 nativeModifiers) override;
 
 private:
     /// A key with its modifiers, the locks left out.

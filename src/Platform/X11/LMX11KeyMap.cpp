@@ -103,6 +103,40 @@ std::vector<xcb_keycode_t> LMX11KeyMap::codesInColumn(quint32 keysym, int column
     return codes;
 }
 
+quint32 LMX11KeyMap::keysymInColumn(xcb_keycode_t code, int column) const {
+    const auto place =
+        static_cast<std::size_t>(code - m_firstCode) * static_cast<std::size_t>(m_width) +
+        static_cast<std::size_t>(column);
+    return code >= m_firstCode && column < m_width && place < m_keysyms.size()
+               ? LMKeyTable::canonicalKeysym(m_keysyms[place])
+               : 0;
+}
+
+quint32 LMX11KeyMap::keysym(xcb_keycode_t code, int layout) const {
+    const quint32 first = keysymInColumn(code, 0);
+    const quint32 second = keysymInColumn(code, secondLayout);
+    const quint32 here = layout == 1 && second != 0 ? second : first;
+    const quint32 other = here == first ? second : first;
+    const bool isForeignCharacter =
+        (here >= 0x100 && here < 0xfd00) || (here >= 0x01000100 && here < 0x01110000);
+    return isForeignCharacter && other >= 'a' && other <= 'z' ? other : here;
+}
+
+quint32 LMX11KeyMap::modifierFlags(uint16_t modifiers) const {
+    const std::pair<uint16_t, quint32> translations[] = {
+        {XCB_MOD_MASK_SHIFT, LMModifier::Shift},
+        {XCB_MOD_MASK_CONTROL, LMModifier::Control},
+        {m_option, LMModifier::Option},
+        {m_command, LMModifier::Command},
+    };
+    quint32 flags = 0;
+    for (const auto& [modifier, flag] : translations) {
+        if ((modifiers & modifier) != 0)
+            flags |= flag;
+    }
+    return flags;
+}
+
 uint16_t LMX11KeyMap::modifierWithKey(const std::vector<xcb_keycode_t>& modifierCodes,
                                       std::initializer_list<xcb_keysym_t> keysyms) const {
     const std::size_t codesEach = modifierCodes.size() / modifierCount;

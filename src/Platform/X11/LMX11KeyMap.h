@@ -36,6 +36,14 @@ public:
     /// Greek) is looked for in its place on the ANSI keyboard.
     Keys keys(quint32 keysym) const;
 
+    /// What the key produces without modifiers in one of the user's layouts, counted from 0; 0 for
+    /// nothing. Where that is not in the Latin alphabet, the Latin letter that another layout has
+    /// on the key. keys() of the answer contains the key.
+    quint32 keysym(xcb_keycode_t code, int layout) const;
+
+    /// The flags of LMModifier for core modifiers.
+    quint32 modifierFlags(uint16_t modifiers) const;
+
     /// The core modifiers for the flags of LMModifier. Nothing when the keyboard lacks one.
     std::optional<uint16_t> modifiers(quint32 modifierFlags) const;
 
@@ -44,6 +52,7 @@ public:
 
 private:
     std::vector<xcb_keycode_t> codesInColumn(quint32 keysym, int column) const;
+    quint32 keysymInColumn(xcb_keycode_t code, int column) const;
     uint16_t modifierWithKey(const std::vector<xcb_keycode_t>& modifierCodes,
                              std::initializer_list<xcb_keysym_t> keysyms) const;
 
