@@ -83,6 +83,7 @@ void LMApplicationDelegate::applicationDidFinishLaunching() {
     LMHotKeyDefaults::updateOldHotKeyDefaults(m_environment.userDefaults);
     userInterface.activateIgnoringOtherApplications();
     LMOfferLauncher(m_environment, userInterface);
+    userInterface.setUpPreferencesWindow(m_hotKeyCenter);
     m_updateChecks.checkAtLaunch();
     m_crashReporter = LMCrashReporter::install(m_environment.folders.logsDirectoryURL(),
                                                LMStoredWindowsStore::programVersion());

@@ -29,7 +29,7 @@ LMHotKeyCenter::LMHotKeyCenter(LMEnvironment& environment)
             [this](const QString& key) { fire(key, LMHotKeyMoment::Released); });
     connect(&m_hotKeys, &LMHotKeys::hotKeyStateChanged, this,
             [this](const QString& key, const LMHotKeyStatus& status) {
-                if (HotKey* hotKey = find(key))
+                if (HotKey* hotKey = find(key); hotKey && m_suspensions == 0)
                     note(*hotKey, status);
             });
     m_environment.userDefaults.followFile();
@@ -79,8 +79,34 @@ LMHotKeyCenter::HotKey* LMHotKeyCenter::find(const QString& key) const {
     return found == m_entries.end() ? nullptr : found->get();
 }
 
+LMHotKeyCenter::Suspension::Suspension(LMHotKeyCenter& center) : m_center(&center) {
+    if (center.m_suspensions++ == 0)
+        center.setSuspended(true);
+}
+
+LMHotKeyCenter::Suspension::~Suspension() {
+    if (m_center && --m_center->m_suspensions == 0)
+        m_center->setSuspended(false);
+}
+
+/// Those that worked come back first, so that none loses its shortcut to another.
+void LMHotKeyCenter::setSuspended(bool isSuspended) {
+    std::vector<std::shared_ptr<HotKey>> hotKeys = m_entries;
+    std::ranges::stable_partition(hotKeys, [](const auto& hotKey) {
+        return hotKey->report.state == LMHotKeyReport::State::Registered;
+    });
+    for (const auto& hotKey : hotKeys) {
+        if (isSuspended)
+            m_hotKeys.unregisterHotKey(hotKey->report.key);
+        else
+            follow(*hotKey);
+    }
+}
+
 /// Makes the hot key what the user defaults say.
 void LMHotKeyCenter::follow(HotKey& hotKey) {
+    if (m_suspensions > 0)
+        return;
     LMHotKeyReport& report = hotKey.report;
     const LMUserDefaults& userDefaults = m_environment.userDefaults;
     report.shortcut = LMShortcut::fromData(userDefaults.dataForKey(report.key));

@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QString>
 
 #include <functional>
@@ -62,6 +63,18 @@ public:
     /// In the order of registration.
     QList<LMHotKeyReport> hotKeys() const;
 
+    /// While it lives, no hot key is taken from the keyboard: a shortcut is being recorded, and any
+    /// may be pressed. What is set meanwhile holds afterwards. May outlive the center.
+    class Suspension {
+    public:
+        explicit Suspension(LMHotKeyCenter& center);
+        ~Suspension();
+        Q_DISABLE_COPY_MOVE(Suspension)
+
+    private:
+        QPointer<LMHotKeyCenter> m_center;
+    };
+
 Q_SIGNALS:
     /// The report of the key may have changed.
     void hotKeyChanged(const QString& key);
@@ -74,7 +87,10 @@ private:
     void note(HotKey& hotKey, const LMHotKeyStatus& status);
     void fire(const QString& key, LMHotKeyMoment moment);
 
+    void setSuspended(bool isSuspended);
+
     LMEnvironment& m_environment;
     LMHotKeys& m_hotKeys;
     std::vector<std::shared_ptr<HotKey>> m_entries; ///< Shared: a handler may replace its own.
+    int m_suspensions = 0;
 };

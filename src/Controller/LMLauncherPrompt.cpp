@@ -23,16 +23,6 @@ namespace {
 constexpr QLatin1String Entry{"/applications/org.rook.Rook.desktop"};
 constexpr QLatin1String Icon{"/icons/hicolor/128x128/apps/org.rook.Rook.png"};
 
-/// Null, or why not.
-QString write(const QString& path, const QByteArray& data) {
-    if (const auto made = LMCreateDirectory(QFileInfo(path).path()); !made)
-        return QString::fromStdString(made.error().message());
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(data) == data.size() && file.commit())
-        return {};
-    return file.errorString();
-}
-
 QByteArray resource(const QString& name) {
     QFile file(QStringLiteral(":/rook/") + name);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -70,14 +60,26 @@ bool LMHasLauncher(const QString& executable) {
     });
 }
 
+QString LMWriteFileAtomically(const QString& path, const QByteArray& data) {
+    if (const auto made = LMCreateDirectory(QFileInfo(path).path()); !made)
+        return QString::fromStdString(made.error().message());
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(data) == data.size() && file.commit())
+        return {};
+    return file.errorString();
+}
+
+QByteArray LMLauncherEntry(const QString& executable) {
+    QByteArray entry = resource(QStringLiteral("org.rook.Rook.desktop"));
+    return entry.replace("\nExec=rook\n", "\nExec=" + LMExecOfArgument(executable).toUtf8() + '\n');
+}
+
 QString LMWriteLauncher(const QString& executable) {
     const QString directory = LMDataHomeDirectory();
     if (directory.isNull())
         return QStringLiteral("there is no home directory");
-    QByteArray entry = resource(QStringLiteral("org.rook.Rook.desktop"));
-    entry.replace("\nExec=rook\n", "\nExec=" + LMExecOfArgument(executable).toUtf8() + '\n');
     const QByteArray icon = resource(QStringLiteral("Rook-128.png"));
     if (!icon.isEmpty())
-        write(directory + Icon, icon);
-    return write(directory + Entry, entry);
+        LMWriteFileAtomically(directory + Icon, icon);
+    return LMWriteFileAtomically(directory + Entry, LMLauncherEntry(executable));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 class LMUserInterface;
@@ -14,6 +15,12 @@ void LMOfferLauncher(LMEnvironment& environment, LMUserInterface& userInterface)
 /// Whether the desktop finds this program: an entry stands in one of the data directories, or below
 /// the prefix the program was installed to.
 bool LMHasLauncher(const QString& executable);
+
+/// The desktop entry that starts the program from where it is.
+QByteArray LMLauncherEntry(const QString& executable);
+
+/// Replaces the file in one step, and makes its directory. Null, or why it could not be done.
+QString LMWriteFileAtomically(const QString& path, const QByteArray& data);
 
 /// Writes the entry and its icon below $XDG_DATA_HOME. Null, or why it could not be done.
 QString LMWriteLauncher(const QString& executable);

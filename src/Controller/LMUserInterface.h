@@ -6,6 +6,7 @@
 
 #include <QString>
 
+class LMHotKeyCenter;
 class LMStatusMenu;
 class LMWindow;
 class LMWorkspace;
@@ -54,6 +55,9 @@ public:
     virtual void showStoredWindowPicker(LMWorkspace& workspace, LMWindow& focusedWindow) = 0;
     virtual void closeStoredWindowPicker() = 0;
     virtual void showStoredWindowsList() = 0;
+    /// Once, at launch: the preferences watch over the status icon also while their window is
+    /// closed. The hot keys live as long as the controller, after which none of this is called.
+    virtual void setUpPreferencesWindow(LMHotKeyCenter& hotKeys) = 0;
     virtual void showPreferencesWindow() = 0;
     virtual void showAboutPanel() = 0;
 

@@ -24,6 +24,7 @@ public:
     void showStoredWindowPicker(LMWorkspace&, LMWindow&) override {}
     void closeStoredWindowPicker() override {}
     void showStoredWindowsList() override {}
+    void setUpPreferencesWindow(LMHotKeyCenter&) override {}
     void showPreferencesWindow() override {}
     void showAboutPanel() override {}
     void reloadTableViews() override {}

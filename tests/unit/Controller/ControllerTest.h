@@ -35,6 +35,7 @@ public:
     void showStoredWindowPicker(LMWorkspace&, LMWindow&) override { calls.append(u"picker"_s); }
     void closeStoredWindowPicker() override { calls.append(u"no picker"_s); }
     void showStoredWindowsList() override { calls.append(u"list"_s); }
+    void setUpPreferencesWindow(LMHotKeyCenter&) override {}
     void showPreferencesWindow() override { calls.append(u"preferences"_s); }
     void showAboutPanel() override { calls.append(u"about"_s); }
     void reloadTableViews() override { calls.append(u"reload"_s); }

@@ -115,6 +115,30 @@ TEST_F(LMHotKeysTest, WhatIsRefusedSaysWhyAndWorksAsSoonAsItCan) {
     EXPECT_EQ(report(ShowMenuHotKey).reason, QString());
 }
 
+TEST_F(LMHotKeysTest, NothingFiresWhileSuspendedAndAllIsBackAfterwards) {
+    QStringList fired, changed;
+    for (const QLatin1String key : {StoreAllWindowsHotKey, ShowMenuHotKey, LinkActiveWindowHotKey})
+        center.registerShortcut(key, &test.notificationCenter, [&, key] { fired.append(key); });
+    set(ShowMenuHotKey, 3);
+    set(StoreAllWindowsHotKey, 3); // Later, and so refused, although it is first in the table.
+    QObject::connect(&center, &LMHotKeyCenter::hotKeyChanged, &center,
+                     [&](const QString& key) { changed.append(key); });
+    {
+        const LMHotKeyCenter::Suspension outer(center), inner(center);
+        type(3);
+        EXPECT_EQ(desktop.hotKeys().holder(onKey(3)), QString());
+        EXPECT_EQ(report(ShowMenuHotKey).state, State::Registered);
+        EXPECT_EQ(changed, QStringList());
+        set(LinkActiveWindowHotKey, 5);
+        type(5);
+    }
+    EXPECT_EQ(fired, QStringList());
+    type(3);
+    type(5);
+    EXPECT_EQ(fired, QStringList({ShowMenuHotKey, LinkActiveWindowHotKey}));
+    EXPECT_EQ(report(StoreAllWindowsHotKey).state, State::Refused);
+}
+
 TEST_F(LMHotKeysTest, AnActionThatRunsIsNotStartedAgain) {
     set(StoreAllWindowsHotKey, 0);
     int runs = 0;
