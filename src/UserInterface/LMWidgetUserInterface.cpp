@@ -4,9 +4,13 @@
 #include "Platform/LMDesktop.h"
 #include "Platform/LMEnvironment.h"
 #include "UserInterface/LMAlertWindow.h"
+#include "UserInterface/LMGeneralPreferencesViewController.h"
+#include "UserInterface/LMHotKeysPreferencesViewController.h"
+#include "UserInterface/LMPreferencesWindowController.h"
 #include "UserInterface/LMStatusItem.h"
 #include "UserInterface/LMWindowPlacement.h"
 #include "UserInterface/WindowLinking/LMStoredWindowPicker.h"
+#include "Utilities/LMFormat.h"
 
 #include <QApplication>
 #include <QWindow>
@@ -98,7 +102,21 @@ void LMWidgetUserInterface::closeStoredWindowPicker() {
         m_storedWindowPicker->close(false);
 }
 
+void LMWidgetUserInterface::setUpPreferencesWindow(LMHotKeyCenter& hotKeys) {
+    LMPreferencesWindowController::Panes panes;
+    panes.push_back(std::make_unique<LMGeneralPreferencesViewController>(m_environment));
+    panes.push_back(std::make_unique<LMHotKeysPreferencesViewController>(m_environment, hotKeys));
+    m_preferencesWindowController = std::make_unique<LMPreferencesWindowController>(
+        std::move(panes), LMLocalized("Preferences"), m_environment.desktop);
+}
+
+void LMWidgetUserInterface::showPreferencesWindow() {
+    closeStoredWindowPicker();
+    followAppearance();
+    if (m_preferencesWindowController)
+        m_preferencesWindowController->showWindow();
+}
+
 // What later windows provide stands under its name already and does nothing yet.
 void LMWidgetUserInterface::showStoredWindowsList() {}
-void LMWidgetUserInterface::showPreferencesWindow() {}
 void LMWidgetUserInterface::reloadTableViews() {}

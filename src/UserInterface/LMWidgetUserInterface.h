@@ -9,6 +9,7 @@
 
 #include <memory>
 
+class LMPreferencesWindowController;
 class LMStatusItem;
 class LMStatusMenuView;
 class LMStoredWindowPicker;
@@ -43,6 +44,7 @@ public:
     void showStoredWindowPicker(LMWorkspace& workspace, LMWindow& focusedWindow) override;
     void closeStoredWindowPicker() override;
     void showStoredWindowsList() override;
+    void setUpPreferencesWindow(LMHotKeyCenter& hotKeys) override;
     void showPreferencesWindow() override;
     void showAboutPanel() override;
     void reloadTableViews() override;
@@ -61,6 +63,7 @@ private:
     LMProgressWindowController m_progressWindowController;
     LMAboutWindowController m_aboutWindowController;
     LMPermissionPrompt m_permissionPrompt;
+    std::unique_ptr<LMPreferencesWindowController> m_preferencesWindowController;
     std::unique_ptr<LMStatusMenuView> m_popUpMenu;
     std::unique_ptr<LMStatusItem> m_statusItem; ///< Uses the menu above.
     std::unique_ptr<LMStoredWindowPicker> m_storedWindowPicker;

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Model/Store/LMObjectID.h"
+
+#include <QAbstractTableModel>
+#include <QCollator>
+#include <QList>
+#include <QSortFilterProxyModel>
+
+class LMStoredWindowsStore;
+class LMWorkspace;
+struct LMEnvironment;
+
+/// All workspaces as a table, oldest first. It holds what it shows and the identifiers of the
+/// records, so that records may go at any time; reload() takes over what the store says.
+class LMWorkspaceListModel final : public QAbstractTableModel {
+    Q_OBJECT
+public:
+    enum Column { Name, Status, Displays, Applications, Windows, ColumnCount };
+    enum class State { Current, CanBecomeCurrent, OtherDisplays };
+    static constexpr int SortRole = Qt::UserRole; ///< A text or a number.
+
+    /// Both outlive the model.
+    LMWorkspaceListModel(LMEnvironment& environment, LMStoredWindowsStore& store);
+
+    /// Reads the workspaces and the attached displays again. Rows that stay keep their selection,
+    /// and a name that is being edited stays so.
+    void reload();
+
+    LMObjectID objectID(int row) const { return m_rows.at(row).objectID; }
+    State state(int row) const { return m_rows.at(row).state; }
+    /// The record, or none when it is gone.
+    LMWorkspace* workspace(const LMObjectID& objectID) const;
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    int columnCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
+    /// Renames the workspace and asks for a save. An empty name brings the automatic one back.
+    bool setData(const QModelIndex& index, const QVariant& value, int role) override;
+
+private:
+    struct Row {
+        LMObjectID objectID;
+        QString name;
+        QString displays;
+        QString displayDetails; ///< One line for each.
+        qsizetype displayCount = 0;
+        qsizetype applicationCount = 0;
+        qsizetype windowCount = 0;
+        State state = State::OtherDisplays;
+        bool operator==(const Row&) const = default;
+    };
+    class Attached;
+
+    static Row row(const LMWorkspace& workspace, const Attached& attached);
+    static QVariant displayValue(const Row& row, int column);
+    static QVariant sortValue(const Row& row, int column);
+
+    LMEnvironment& m_environment;
+    LMStoredWindowsStore& m_store;
+    QList<Row> m_rows;
+};
+
+/// The same in the order of a column, numbers within texts by their value. What is equal there is
+/// ordered by name, then by age.
+class LMWorkspaceOrder final : public QSortFilterProxyModel {
+public:
+    explicit LMWorkspaceOrder(LMWorkspaceListModel& workspaces);
+
+protected:
+    bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
+
+private:
+    int compare(const QModelIndex& left, const QModelIndex& right) const;
+
+    QCollator m_collator;
+};
