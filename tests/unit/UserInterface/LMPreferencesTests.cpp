@@ -1,0 +1,279 @@
+// SPDX-License-Identifier: MIT
+#include "unit/Files.h"
+#include "unit/UserInterface/UserInterfaceTest.h"
+#include "UserInterface/LMGeneralPreferencesViewController.h"
+#include "UserInterface/LMHotKeysPreferencesViewController.h"
+#include "UserInterface/LMPreferencesWindowController.h"
+#include "UserInterface/LMShortcutRecorder.h"
+
+#include <QCheckBox>
+#include <QDir>
+#include <QDoubleSpinBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QToolButton>
+
+namespace {
+
+constexpr quint32 Control = LMModifier::Control, Shift = LMModifier::Shift,
+                  Option = LMModifier::Option;
+constexpr quint32 ControlKey = 0xffe3, ShiftKey = 0xffe1, EscapeKey = 0xff1b, TabKey = 0xff09,
+                  BackspaceKey = 0xff08, F9 = 0xffc6;
+
+LMShortcut shortcut(quint32 keysym, quint32 flags) {
+    return LMShortcut::shortcutWithKeysym(keysym, flags).value();
+}
+
+} // namespace
+
+class Preferences : public UserInterfaceTest {
+protected:
+    void SetUp() override {
+        defaults.registerDefaults({{Keys::RestoreWindowsAsApplicationsLaunch, true},
+                                   {Keys::ApplicationLaunchRestoreDelay, 0.5}});
+        auto items = std::make_unique<LMLoginItemsController>(environment, u"/bin/rook"_s,
+                                                              QStringList{test.path(u"home"_s)});
+        for (const QLatin1String key :
+             {Keys::RestoreAllWindowsHotKey, Keys::StoreAllWindowsHotKey, Keys::ShowMenuHotKey})
+            center.registerShortcut(key, &application, [this, key] { fired.append(key); });
+        LMPreferencesWindowController::Panes panes;
+        panes.push_back(
+            std::make_unique<LMGeneralPreferencesViewController>(environment, std::move(items)));
+        panes.push_back(std::make_unique<LMHotKeysPreferencesViewController>(environment, center));
+        general = static_cast<LMGeneralPreferencesViewController*>(panes[0].get());
+        preferences = std::make_unique<LMPreferencesWindowController>(std::move(panes),
+                                                                      u"Preferences"_s, desktop);
+        test.notificationCenter.addObserver(LMNotification::StatusItemVisibilityChanged,
+                                            &application, [this] { ++iconChanges; });
+        test.notificationCenter.addObserver(LMNotification::CheckForUpdates, &application,
+                                            [this] { ++updateChecks; });
+    }
+
+    template <class Control>
+    Control& find(const QString& name) {
+        return *preferences->window()->findChild<Control*>(name);
+    }
+    QCheckBox& box(const QString& name) { return find<QCheckBox>(name); }
+    LMShortcutRecorder& recorder(const QString& key) { return find<LMShortcutRecorder>(key); }
+    QString message(const QString& key) {
+        const auto& label = find<QLabel>(key + u"Message"_s);
+        return label.isHidden() ? QString() : label.text();
+    }
+    static QPushButton& button(LMShortcutRecorder& recorder) {
+        return *recorder.findChild<QPushButton*>();
+    }
+    /// On the fake keyboard a key has its keysym for a scan code.
+    static void press(LMShortcutRecorder& recorder, quint32 keysym, quint32 flags = 0,
+                      bool isReleased = true) {
+        for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+            const int key = keysym == TabKey ? Qt::Key_Tab : Qt::Key_unknown;
+            QKeyEvent event(type, key, Qt::NoModifier, keysym, 0, flags);
+            if (type == QEvent::KeyPress || isReleased)
+                QCoreApplication::sendEvent(&button(recorder), &event);
+        }
+    }
+    std::optional<LMShortcut> stored(const QString& key) {
+        return LMShortcut::fromData(defaults.dataForKey(key));
+    }
+
+    LMHotKeyCenter center{environment};
+    LMGeneralPreferencesViewController* general = nullptr;
+    std::unique_ptr<LMPreferencesWindowController> preferences;
+    QStringList fired;
+    int iconChanges = 0, updateChecks = 0;
+};
+
+TEST_F(Preferences, ControlsAreTiedToTheirKeysBothWays) {
+    preferences->showWindow();
+    const std::pair<QString, QLatin1String> rows[] = {
+        {u"restoreOnDisplayChangeCheckbox"_s, Keys::RestoreWindowsAutomatically},
+        {u"restoreOnLaunchCheckbox"_s, Keys::RestoreWindowsAsApplicationsLaunch},
+        {u"screenshotsCheckbox"_s, Keys::CreateScreenshotsWhenStoringWindows},
+        {u"automaticUpdatesCheckbox"_s, Keys::SUEnableAutomaticChecks},
+    };
+    for (const auto& [name, key] : rows) {
+        for (int i = 0; i < 2; ++i) {
+            const bool before = defaults.boolForKey(key);
+            EXPECT_EQ(box(name).isChecked(), before) << key.data();
+            box(name).click();
+            EXPECT_EQ(defaults.boolForKey(key), !before) << key.data();
+        }
+        // Another program writes the file.
+        LMUserDefaults(defaults.filePath(), test.logger).setObject(key, false);
+        defaults.reload();
+        EXPECT_FALSE(box(name).isChecked()) << key.data();
+    }
+    EXPECT_EQ(updateChecks, 1) << "only when it is turned on";
+    auto& delay = find<QDoubleSpinBox>(u"launchDelaySpinBox"_s);
+    EXPECT_FALSE(delay.isEnabled());
+    EXPECT_EQ(delay.value(), 0.5);
+    box(u"restoreOnLaunchCheckbox"_s).click();
+    EXPECT_TRUE(delay.isEnabled());
+    delay.stepUp();
+    EXPECT_EQ(defaults.doubleForKey(Keys::ApplicationLaunchRestoreDelay), 0.6);
+    defaults.setObject(Keys::ApplicationLaunchRestoreDelay, 1000);
+    EXPECT_EQ(delay.value(), 60);
+    EXPECT_EQ(defaults.doubleForKey(Keys::ApplicationLaunchRestoreDelay), 1000);
+}
+
+TEST_F(Preferences, TheIconCannotBeHiddenWithoutTheHotKey) {
+    const QString cannot =
+        u"Rook’s menu icon cannot be hidden until the “Display Menu” hot key is set."_s;
+    const auto expectHidable = [&](bool isHidable) {
+        EXPECT_EQ(general->showMenuCheckboxEnabled(), isHidable);
+        EXPECT_EQ(box(u"hideMenuIconCheckbox"_s).isEnabled(), isHidable);
+        EXPECT_EQ(box(u"hideMenuIconCheckbox"_s).toolTip(),
+                  isHidable ? u"Removes Rook’s icon from the menu bar when checked."_s : cannot);
+        EXPECT_EQ(find<QLabel>(u"hotKeySubscriptTextField"_s).text(),
+                  isHidable ? u"With the menu icon disabled, Rook’s menu can be displayed by "
+                              "pressing Ctrl+Alt+M"_s
+                            : cannot);
+    };
+    defaults.setObject(Keys::ShowMenuHotKey, u"no shortcut"_s);
+    preferences->showWindow();
+    expectHidable(false);
+    defaults.setObject(Keys::ShowMenuHotKey, shortcut('m', Control | Option).data());
+    expectHidable(true);
+    box(u"hideMenuIconCheckbox"_s).click();
+    EXPECT_TRUE(defaults.boolForKey(Keys::DisableStatusBarItem));
+    EXPECT_EQ(iconChanges, 1);
+    defaults.removeObject(Keys::ShowMenuHotKey);
+    expectHidable(false);
+    EXPECT_FALSE(defaults.hasObject(Keys::DisableStatusBarItem));
+    EXPECT_EQ(iconChanges, 2) << "the icon comes back";
+    EXPECT_FALSE(box(u"hideMenuIconCheckbox"_s).isChecked());
+}
+
+TEST_F(Preferences, TheMenuStaysReachableWhileTheWindowIsClosed) {
+    LMUserDefaults(defaults.filePath(), test.logger).setObject(Keys::DisableStatusBarItem, true);
+    defaults.reload();
+    EXPECT_FALSE(defaults.boolForKey(Keys::DisableStatusBarItem));
+    EXPECT_EQ(preferences->window(), nullptr);
+}
+
+TEST_F(Preferences, WarningsAreResetAllAtOnce) {
+    preferences->showWindow();
+    auto& reset = find<QPushButton>(u"resetWarningsButton"_s);
+    for (const QLatin1String key :
+         {Keys::moveToApplicationsFolderAlertSuppress, Keys::SuppressStoreActiveApplicationAlert,
+          Keys::SuppressStoreActiveWindowAlert, Keys::SuppressLinkActiveWindowAlert,
+          Keys::SuppressStoreAllAlert, Keys::SuppressStoreActiveApplicationSuccess,
+          Keys::SuppressStoreActiveWindowSuccess, Keys::SuppressStoreAllSuccess}) {
+        EXPECT_FALSE(reset.isEnabled());
+        defaults.setObject(key, true);
+        EXPECT_TRUE(reset.isEnabled()) << key.data();
+        reset.click();
+        EXPECT_FALSE(defaults.hasObject(key)) << key.data();
+    }
+}
+
+TEST_F(Preferences, StartAtLoginShowsTheLoginItemsNotTheSetting) {
+    defaults.setObject(Keys::StartRookAtLogin, true);
+    preferences->showWindow();
+    QCheckBox& start = box(u"startAtLoginCheckbox"_s);
+    const QString file = test.path(u"home/autostart/org.rook.Rook.desktop"_s);
+    EXPECT_FALSE(start.isChecked());
+    start.click();
+    EXPECT_TRUE(QFile::exists(file));
+    QFile::remove(file);
+    EXPECT_TRUE(wait([&] { return !start.isChecked(); }));
+    QDir(test.path(u"home/autostart"_s)).removeRecursively();
+    LMWriteFile(test.path(u"home/autostart"_s));
+    start.click();
+    EXPECT_FALSE(start.isChecked()) << "it could not be done, and the user is told";
+    EXPECT_TRUE(QApplication::activeModalWidget());
+}
+
+TEST_F(Preferences, WhatIsTypedBecomesTheShortcut) {
+    preferences->showWindow();
+    find<QTabWidget>({}).setCurrentIndex(1);
+    const QString key = Keys::StoreAllWindowsHotKey;
+    LMShortcutRecorder& subject = recorder(key);
+    const struct {
+        const char* why;
+        quint32 keysym, flags;
+        std::optional<LMShortcut> expected;
+        bool staysRecording;
+        QString text;
+    } rows[] = {
+        {"a letter", 'r', Control | Option, shortcut('r', Control | Option), false,
+         u"Ctrl+Alt+R"_s},
+        {"Shift does not change the key", '2', Control | Shift, shortcut('2', Control | Shift),
+         false, u"Ctrl+Shift+2"_s},
+        {"a function key", F9, 0, shortcut(F9, 0), false, u"F9"_s},
+        {"a letter alone", 'r', 0, std::nullopt, true, u"Hold Ctrl, Alt or Super"_s},
+        {"Shift is not enough", 'r', Shift, std::nullopt, true, u"Hold Ctrl, Alt or Super"_s},
+        {"a dead key", 0xfe51, Control, std::nullopt, true, u"Not with this key"_s},
+        {"Escape cancels", EscapeKey, 0, std::nullopt, false, u"Record Shortcut"_s},
+        {"but is a key like others", EscapeKey, Option, shortcut(EscapeKey, Option), false,
+         u"Alt+Escape"_s},
+        {"Tab goes on", TabKey, Shift, std::nullopt, false, u"Record Shortcut"_s},
+        {"held modifiers are shown", ControlKey, Option, std::nullopt, true, u"Ctrl+Alt+…"_s},
+    };
+    for (const auto& row : rows) {
+        defaults.removeObject(key);
+        subject.startRecording();
+        press(subject, row.keysym, row.flags, !row.staysRecording);
+        EXPECT_EQ(stored(key), row.expected) << row.why;
+        EXPECT_EQ(subject.isRecording(), row.staysRecording) << row.why;
+        EXPECT_EQ(subject.text(), row.text) << row.why;
+        subject.stopRecording();
+    }
+    defaults.setObject(key, shortcut(F9, 0).data());
+    for (const bool isRecording : {true, false}) {
+        defaults.setObject(key, shortcut(F9, 0).data());
+        if (isRecording)
+            subject.startRecording();
+        QKeyEvent backspace(QEvent::KeyPress, Qt::Key_Backspace, Qt::NoModifier, BackspaceKey, 0,
+                            0);
+        QCoreApplication::sendEvent(&button(subject), &backspace);
+        EXPECT_FALSE(defaults.hasObject(key)) << isRecording;
+    }
+    subject.startRecording();
+    press(subject, ShiftKey, 0, false);
+    EXPECT_EQ(subject.text(), u"Shift+…"_s);
+    press(subject, ShiftKey, Shift);
+    EXPECT_EQ(subject.text(), u"Type Shortcut…"_s);
+    find<QTabWidget>({}).setCurrentIndex(0);
+    EXPECT_FALSE(subject.isRecording()) << "the pane has disappeared";
+}
+
+TEST_F(Preferences, ARecordedHotKeyWorksAtOnceAndConflictsAreNamed) {
+    preferences->showWindow();
+    find<QTabWidget>({}).setCurrentIndex(1);
+    const QString first = Keys::RestoreAllWindowsHotKey, second = Keys::StoreAllWindowsHotKey;
+    const LMShortcut onR = shortcut('r', Control), onS = shortcut('s', Control);
+    for (const QString& key : {first, second}) {
+        recorder(key).startRecording();
+        desktop.hotKeys().press(onR);
+        EXPECT_EQ(fired, QStringList()) << "none fires while one is recorded";
+        press(recorder(key), 'r', Control);
+    }
+    EXPECT_EQ(message(first), QString());
+    EXPECT_EQ(message(second), u"“Restore All Windows” is using Ctrl+R."_s);
+    EXPECT_EQ(button(recorder(second)).accessibleDescription(), message(second));
+    EXPECT_EQ(button(recorder(second)).accessibleName(), u"Store All Windows: Ctrl+R"_s);
+    desktop.hotKeys().press(onR);
+    EXPECT_EQ(fired, QStringList{first});
+    recorder(first).findChild<QToolButton*>()->click();
+    EXPECT_EQ(message(second), QString());
+    desktop.hotKeys().press(onR);
+    EXPECT_EQ(fired, QStringList({first, second}));
+
+    desktop.hotKeys().setHeldByAnotherProgram({onS});
+    recorder(second).startRecording();
+    press(recorder(second), 's', Control);
+    EXPECT_EQ(message(second), u"Another program is using Ctrl+S."_s);
+    // Recording ends with the window, and a window that is gone holds no hot key back.
+    recorder(first).startRecording();
+    preferences->window()->close();
+    EXPECT_FALSE(recorder(first).isRecording());
+    preferences->showWindow();
+    recorder(first).startRecording();
+    preferences.reset();
+    defaults.setObject(second, onR.data());
+    desktop.hotKeys().press(onR);
+    EXPECT_EQ(fired, QStringList({first, second, second}));
+}
