@@ -8,6 +8,7 @@
 #include "UserInterface/LMHotKeysPreferencesViewController.h"
 #include "UserInterface/LMPreferencesWindowController.h"
 #include "UserInterface/LMStatusItem.h"
+#include "UserInterface/LMStoredWindowsList.h"
 #include "UserInterface/LMWindowPlacement.h"
 #include "UserInterface/WindowLinking/LMStoredWindowPicker.h"
 #include "Utilities/LMFormat.h"
@@ -117,6 +118,15 @@ void LMWidgetUserInterface::showPreferencesWindow() {
         m_preferencesWindowController->showWindow();
 }
 
-// What later windows provide stands under its name already and does nothing yet.
-void LMWidgetUserInterface::showStoredWindowsList() {}
-void LMWidgetUserInterface::reloadTableViews() {}
+void LMWidgetUserInterface::showStoredWindowsList() {
+    closeStoredWindowPicker();
+    followAppearance();
+    if (!m_storedWindowsList)
+        m_storedWindowsList = std::make_unique<LMStoredWindowsList>(m_environment, m_store);
+    m_storedWindowsList->showWindow();
+}
+
+void LMWidgetUserInterface::reloadTableViews() {
+    if (m_storedWindowsList)
+        m_storedWindowsList->reloadTableViews();
+}

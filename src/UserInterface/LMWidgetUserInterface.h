@@ -13,6 +13,7 @@ class LMPreferencesWindowController;
 class LMStatusItem;
 class LMStatusMenuView;
 class LMStoredWindowPicker;
+class LMStoredWindowsList;
 class LMStoredWindowsStore;
 struct LMEnvironment;
 
@@ -63,6 +64,7 @@ private:
     LMProgressWindowController m_progressWindowController;
     LMAboutWindowController m_aboutWindowController;
     LMPermissionPrompt m_permissionPrompt;
+    std::unique_ptr<LMStoredWindowsList> m_storedWindowsList;
     std::unique_ptr<LMPreferencesWindowController> m_preferencesWindowController;
     std::unique_ptr<LMStatusMenuView> m_popUpMenu;
     std::unique_ptr<LMStatusItem> m_statusItem; ///< Uses the menu above.

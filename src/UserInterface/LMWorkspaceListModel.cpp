@@ -56,11 +56,6 @@ QString sizeText(const QRectF& bounds) {
     return QStringLiteral("%1×%2").arg(bounds.width(), 0, 'f', 0).arg(bounds.height(), 0, 'f', 0);
 }
 
-/// Tool tips guess whether they are rich text: this one is, and shows the text as it stands.
-QString plainToolTip(const QString& text) {
-    return QStringLiteral("<p style='white-space:pre-wrap'>%1</p>").arg(text.toHtmlEscaped());
-}
-
 /// Numbers with signs between them turn round among letters that are read from right to left.
 QString leftToRight(const QString& text) {
     constexpr QChar Isolate(0x2066), PopIsolate(0x2069);
@@ -125,11 +120,12 @@ LMWorkspaceListModel::Row LMWorkspaceListModel::row(const LMWorkspace& workspace
         details.append(QStringLiteral("%1 (%2, %3) %4")
                            .arg(sizeText(bounds), QString::number(bounds.x(), 'f', 0),
                                 QString::number(bounds.y(), 'f', 0),
-                                LMPresentableLine(display->productName()))
+                                LMPresentableLine(display->productName()).toHtmlEscaped())
                            .trimmed());
     }
     row.displays = displays.join(QStringLiteral(", "));
-    row.displayDetails = details.join(QLatin1Char('\n'));
+    row.displayDetails =
+        QLatin1String("<p>") + details.join(QLatin1String("<br>")) + QLatin1String("</p>");
     row.displayCount = displays.size();
     row.applicationCount = qsizetype(workspace.applications().size());
     for (const LMApplication* application : workspace.applications())
@@ -226,9 +222,9 @@ QVariant LMWorkspaceListModel::data(const QModelIndex& index, int role) const {
     case SortRole:
         return sortValue(row, column);
     case Qt::ToolTipRole:
-        return column == Name       ? plainToolTip(row.name)
-               : column == Displays ? plainToolTip(row.displayDetails)
-               : column == Status   ? plainToolTip(stateDetails(row.state))
+        return column == Name       ? LMPresentableToolTip(row.name)
+               : column == Displays ? row.displayDetails
+               : column == Status   ? stateDetails(row.state)
                                     : QString();
     case Qt::TextAlignmentRole:
         if (column == Applications || column == Windows)

@@ -46,7 +46,7 @@ private:
         LMObjectID objectID;
         QString name;
         QString displays;
-        QString displayDetails; ///< One line for each.
+        QString displayDetails; ///< HTML for a tool tip, a line for each.
         qsizetype displayCount = 0;
         qsizetype applicationCount = 0;
         qsizetype windowCount = 0;
