@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: MIT
+#include "Model/LMAction.h"
+#include "Model/LMApplication.h"
+#include "Model/LMDisplay.h"
+#include "Model/LMStoredWindow.h"
+#include "Model/LMWorkspace.h"
+#include "unit/UserInterface/UserInterfaceTest.h"
+#include "UserInterface/LMAlertWindow.h"
+#include "UserInterface/LMDisplayView.h"
+#include "UserInterface/LMStoredWindowsList.h"
+#include "Utilities/LMRectangle.h"
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTreeView>
+
+TEST(DisplayRects, DrawEveryDisplayToOneScaleMainFirst) {
+    const QRectF view(0, 0, 300, 200);
+    const QRectF main(0, 0, 1920, 1080), left(-1440, 90, 1440, 900), below(0, 1080, 1920, 1080);
+    const struct {
+        QList<QRectF> displays, reordered, rects;
+    } rows[] = {
+        {{}, {}, {}},
+        {{main}, {main}, {{100, 71, 100, 58}}},
+        {{left, main}, {main, left}, {{133, 63, 130, 74}, {37, 69, 97, 62}}},
+        {{main, below}, {main, below}, {{83, 25, 134, 75}, {83, 100, 134, 75}}},
+        // Two at the origin: the last of them is the main one.
+        {{main, {0, 0, 960, 1080}},
+         {{0, 0, 960, 1080}, main},
+         {{37, 36, 113, 128}, {37, 36, 226, 128}}},
+        // None there: the order stays.
+        {{left}, {left}, {{100, 68, 100, 64}}},
+        {{{0, 0, 0, 0}}, {{0, 0, 0, 0}}, {}},
+        {{{-1e308, 0, 1e308, 1e308}, {1e308, 0, 1e308, 1}},
+         {{-1e308, 0, 1e308, 1e308}, {1e308, 0, 1e308, 1}},
+         {}},
+    };
+    for (const auto& row : rows) {
+        QList<QRectF> displays = row.displays;
+        EXPECT_EQ(LMDisplayRects(view, displays), row.rects);
+        EXPECT_EQ(displays, row.reordered);
+    }
+}
+
+TEST_F(UserInterfaceTest, DisplayViewIsPaintedByTheRules) {
+    LMDisplayView view;
+    view.resize(300, 200);
+    const auto colour = [&](int x, int y) { return view.grab().toImage().pixelColor(x, y).name(); };
+    const QString ground = u"#f2f2f2"_s, black = u"#000000"_s, blue = u"#699cd4"_s,
+                  white = u"#ffffff"_s;
+    EXPECT_EQ(colour(0, 0), black);
+    EXPECT_EQ(colour(150, 100), ground);
+    view.setDisplays({{-1440, 90, 1440, 900}, {0, 0, 1920, 1080}});
+    EXPECT_EQ(view.displays().first(), QRectF(0, 0, 1920, 1080));
+    EXPECT_EQ(colour(133, 100), black);
+    EXPECT_EQ(colour(200, 65), white) << "the menu bar";
+    EXPECT_EQ(colour(200, 68), black);
+    EXPECT_EQ(colour(250, 80), blue);
+    EXPECT_EQ(colour(100, 72), blue) << "only the main display has one";
+}
+
+class StoredWindowsList : public UserInterfaceTest {
+protected:
+    static constexpr QRectF Main{0, 0, 1920, 1080};
+
+    void SetUp() override {
+        center.addObserver(LMNotification::SaveWindows, &application, [this] {
+            store.saveWindows();
+            list.reloadTableViews();
+        });
+    }
+
+    LMWorkspace* add(const QString& name, const QList<QRectF>& bounds, int windows = 0) {
+        desktop.setScreens(bounds);
+        auto* workspace = context().insertObject<LMWorkspace>();
+        workspace->setName(name);
+        auto* member = context().insertObject<LMApplication>();
+        workspace->addApplicationsObject(member);
+        for (int i = 0; i < windows; ++i)
+            member->addWindowsObject(context().insertObject<LMStoredWindow>());
+        store.saveWindows();
+        return workspace;
+    }
+
+    LMObjectContext& context() { return store.managedObjectContext(); }
+    QTreeView& view() { return *list.window()->findChild<QTreeView*>(); }
+    QAction& action(const QString& name) { return *list.window()->findChild<QAction*>(name); }
+    void select(int row) { view().setCurrentIndex(view().model()->index(row, 0)); }
+    QStringList texts(int column) {
+        QStringList texts;
+        for (int row = 0; row < view().model()->rowCount(); ++row)
+            texts.append(view().model()->index(row, column).data().toString());
+        return texts;
+    }
+    LMAlertWindow* sheet() { return list.window()->findChild<LMAlertWindow*>(); }
+
+    LMNotificationCenter& center = test.notificationCenter;
+    LMStoredWindowsList list{environment, store};
+};
+
+TEST_F(StoredWindowsList, ShowsWhatAUserWantsToKnow) {
+    add(u"Travel"_s, {Main}, 1);
+    add({}, {Main, {1920, 0, 1440, 900}}, 1234);
+    add(u"Desk 10"_s, {Main, {-1440, 0, 1440, 900}}, 3);
+    add(u"Desk 9"_s, {Main, {-1440, 0, 1440, 900}, {1920, 0, 800, 600}});
+    add(u"<b>\n\u202e"_s + QString(100000, u'x'), {Main, {0, 1080, 1440, 900}});
+    desktop.setScreens({Main, {0, 1080, 1440, 900}});
+    list.showWindow();
+    EXPECT_EQ(texts(LMWorkspaceListModel::Status),
+              QStringList({u"Current"_s, u"Can be made active"_s, u"Can be made active"_s,
+                           u"Other displays"_s, u"Other displays"_s}));
+    EXPECT_EQ(texts(LMWorkspaceListModel::Name).mid(1),
+              QStringList({u"2 Displays"_s, u"Desk 10"_s, u"Desk 9"_s, u"Travel"_s}));
+    EXPECT_LE(texts(LMWorkspaceListModel::Name).first().size(), 510);
+    EXPECT_EQ(texts(LMWorkspaceListModel::Displays).at(3), u"1920×1080, 1440×900, 800×600"_s);
+    EXPECT_EQ(texts(LMWorkspaceListModel::Windows).at(1), QLocale().toString(1234));
+    view().sortByColumn(LMWorkspaceListModel::Name, Qt::DescendingOrder);
+    EXPECT_EQ(texts(LMWorkspaceListModel::Name).mid(0, 3),
+              QStringList({u"Travel"_s, u"Desk 10"_s, u"Desk 9"_s}));
+
+    // The displays change while it is open.
+    desktop.setScreens({Main});
+    desktop.announceScreenChange();
+    EXPECT_EQ(texts(LMWorkspaceListModel::Status).first(), u"Current"_s);
+    EXPECT_TRUE(view().currentIndex().isValid());
+}
+
+TEST_F(StoredWindowsList, AWorkspaceIsRenamedInPlace) {
+    const QString uri = add({}, {Main})->uriRepresentation();
+    list.showWindow();
+    const QModelIndex name = view().model()->index(0, LMWorkspaceListModel::Name);
+    const struct {
+        QString typed, stored;
+    } rows[] = {{u"1 Display"_s, u"1 Display"_s},
+                {u" Desk & <i> \t"_s, u"Desk & <i>"_s},
+                {QString(), u"1 Display"_s}};
+    for (const auto& row : rows) {
+        action(u"rename"_s).trigger();
+        auto* field = view().findChild<QLineEdit*>();
+        ASSERT_TRUE(field);
+        field->setText(row.typed);
+        // Something else is saved in the middle of it.
+        center.postNotification(LMNotification::SaveWindows);
+        EXPECT_EQ(field->text(), row.typed);
+        QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+        QCoreApplication::sendEvent(field, &enter);
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_EQ(name.data().toString(), row.stored);
+        EXPECT_EQ(context().objects<LMWorkspace>().at(0)->name(), row.stored);
+    }
+    EXPECT_EQ(context().objects<LMWorkspace>().at(0)->uriRepresentation(), uri);
+}
+
+TEST_F(StoredWindowsList, DeletingAsksAndCancelLeavesIt) {
+    add(u"A"_s, {Main}, 2);
+    add(u"B"_s, {Main}, 2);
+    list.showWindow();
+    select(1);
+    for (const int button : {1001, 1000}) {
+        action(u"delete"_s).trigger();
+        ASSERT_TRUE(sheet());
+        EXPECT_EQ(sheet()->windowModality(), Qt::WindowModal);
+        QStringList labels;
+        for (const QLabel* label : sheet()->findChildren<QLabel*>())
+            labels.append(label->text().remove(QChar(0x200B)));
+        EXPECT_TRUE(labels.contains(u"Delete display configuration"_s));
+        EXPECT_TRUE(labels.contains(u"Do you wish to delete all stored windows for the selected "
+                                    "display configuration?"_s));
+        sheet()->findChild<QPushButton*>(u"button%1"_s.arg(button))->click();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_EQ(texts(0).size(), button == 1000 ? 1 : 2);
+    }
+    EXPECT_EQ(texts(0), QStringList{u"A"_s});
+    EXPECT_EQ(context().objects<LMStoredWindow>().size(), 2U);
+
+    // Somebody else deletes it while the question is asked.
+    action(u"delete"_s).trigger();
+    context().deleteObject(context().objects<LMWorkspace>().at(0));
+    store.saveWindows();
+    sheet()->findChild<QPushButton*>(u"button1000"_s)->click();
+    list.reloadTableViews();
+    for (const char* name : {"edit", "rename", "makeActive", "delete"})
+        EXPECT_FALSE(action(QLatin1String(name)).isEnabled()) << name;
+    EXPECT_TRUE(list.window()->findChild<QLabel*>(u"emptyLabel"_s)->isVisible());
+    list.removeWorkspace();
+    list.editWorkspace();
+    list.makeActive();
+    EXPECT_FALSE(sheet() && sheet()->isVisible());
+}
+
+TEST_F(StoredWindowsList, EditingTakesTheListsPlace) {
+    add(u"A"_s, {Main});
+    list.showWindow();
+    action(u"edit"_s).trigger();
+    EXPECT_FALSE(list.window()->isVisible());
+    list.showWindow();
+    EXPECT_TRUE(list.window()->isVisible());
+}
+
+TEST_F(StoredWindowsList, MakingActiveArrangesTheDisplays) {
+    add(u"Right"_s, {Main, {1920, 0, 1440, 900}});
+    add(u"Left"_s, {Main, {-1440, 0, 1440, 900}});
+    list.showWindow();
+    select(0);
+    EXPECT_EQ(texts(0), QStringList({u"Left"_s, u"Right"_s}));
+    EXPECT_FALSE(action(u"makeActive"_s).isEnabled());
+    select(1);
+    ASSERT_TRUE(action(u"makeActive"_s).isEnabled());
+    action(u"makeActive"_s).trigger();
+    EXPECT_EQ(desktop.screens().screens().at(1).displayBounds, QRectF(1920, 0, 1440, 900));
+    desktop.announceScreenChange();
+    EXPECT_EQ(texts(0), QStringList({u"Right"_s, u"Left"_s}));
+    EXPECT_FALSE(action(u"makeActive"_s).isEnabled());
+}
