@@ -152,7 +152,9 @@ QString LMLoginItemsController::addCurrentApplicationToLoginItems() {
     if (isCurrentApplicationInLoginItems())
         return {};
     const QString path = userFile(entryName());
-    QFile::remove(path); // May be a link, or what hides the system's entry.
+    // Nothing is written through a link, and the system's entry need only be unmasked.
+    if (QFileInfo(path).isSymLink() || !systemFile(entryName()).isNull())
+        QFile::remove(path);
     return isCurrentApplicationInLoginItems()
                ? QString()
                : LMWriteFileAtomically(path, LMLauncherEntry(m_executable));

@@ -11,7 +11,6 @@
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QPalette>
-#include <QStyle>
 
 #include <algorithm>
 
@@ -86,9 +85,6 @@ void LMHotKeysPreferencesViewController::addRow(QGridLayout& grid, Row& row) {
     row.message->setWordWrap(true);
     row.message->setAlignment(Qt::AlignTrailing);
     row.message->setMinimumWidth(row.message->fontMetrics().averageCharWidth() * MessageCharacters);
-    QPalette palette = row.message->palette();
-    palette.setColor(QPalette::WindowText, warningColour(palette));
-    row.message->setPalette(palette);
     grid.addWidget(label, line, 0, Qt::AlignTrailing | Qt::AlignVCenter);
     grid.addWidget(row.recorder, line, 1);
     grid.addWidget(row.message, line + 1, 0, 1, 2);
@@ -111,6 +107,9 @@ void LMHotKeysPreferencesViewController::showConflicts() {
         if (!row.message)
             continue;
         const QString text = conflict(row);
+        QPalette palette = QGuiApplication::palette();
+        palette.setColor(QPalette::WindowText, warningColour(palette));
+        row.message->setPalette(palette);
         row.message->setText(text);
         row.message->setVisible(!text.isEmpty());
         row.recorder->setMessage(text);

@@ -112,14 +112,12 @@ void LMWidgetUserInterface::setUpPreferencesWindow(LMHotKeyCenter& hotKeys) {
 }
 
 void LMWidgetUserInterface::showPreferencesWindow() {
-    closeStoredWindowPicker();
     followAppearance();
     if (m_preferencesWindowController)
         m_preferencesWindowController->showWindow();
 }
 
 void LMWidgetUserInterface::showStoredWindowsList() {
-    closeStoredWindowPicker();
     followAppearance();
     if (!m_storedWindowsList)
         m_storedWindowsList = std::make_unique<LMStoredWindowsList>(m_environment, m_store);

@@ -100,6 +100,7 @@ class Preferences(unittest.TestCase):
         self.record("a", "ctrl+alt+m")
         wait_until(lambda: self.hot_keys()["RestoreAllWindowsHotKey"] == "Ctrl+Alt+M", "the conflict to be stored")
         self.assertFalse(self.search("Rook Menu"))
+        self.record("Escape")
         self.record("ctrl+shift+eacute")
         wait_until(lambda: self.hot_keys()["RestoreAllWindowsHotKey"] == "Ctrl+Shift+É", "the hot key", 10.0)
         self.press("Escape")
