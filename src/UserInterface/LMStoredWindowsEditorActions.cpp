@@ -11,6 +11,7 @@
 #include "UserInterface/LMWindowPlacement.h"
 #include "Utilities/LMFormat.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QGuiApplication>
 
@@ -55,7 +56,7 @@ void LMStoredWindowsEditor::addAction(int tag) {
 void LMStoredWindowsEditor::askForScript() {
     if (!workspace() || !m_window)
         return;
-    auto* panel = new QFileDialog(m_window.get(), LMLocalized("Import Script"));
+    auto* panel = new QFileDialog(m_window.get(), LMLocalized("Import Script"), QDir::homePath());
     panel->setAttribute(Qt::WA_DeleteOnClose);
     panel->setFileMode(QFileDialog::ExistingFile);
     connect(panel, &QFileDialog::fileSelected, this, &LMStoredWindowsEditor::importScript);

@@ -22,6 +22,7 @@
 namespace {
 
 constexpr int ShortestEditor = 4; // lines
+constexpr int Rest = 2000;        // milliseconds
 
 /// The text as it was set: what the widget itself hands out has plain blanks for fixed ones.
 QString plainText(const QPlainTextEdit& editor) {
@@ -44,9 +45,12 @@ LMScriptEditor::LMScriptEditor(LMObjectContext& context, LMScriptHost* scriptHos
       m_shellScriptEditor(makeTextView(LMLocalized("Shell script"))),
       m_appleScriptEditor(makeTextView(LMLocalized("AppleScript"))),
       m_placeholder(new QStackedLayout(this)) {
+    setFocusPolicy(Qt::ClickFocus); // On behalf of the text; without any no label leads here.
     m_placeholder->setContentsMargins(0, 0, 0, 0);
     m_placeholder->addWidget(m_shellScriptEditor);
     m_placeholder->addWidget(makeAppleScriptView());
+    m_restTimer.setSingleShot(true);
+    connect(&m_restTimer, &QTimer::timeout, this, &LMScriptEditor::endEditing);
     updateActionEditorView(nullptr);
 }
 
@@ -96,6 +100,7 @@ void LMScriptEditor::updateActionEditorView(const LMAction* action) {
     const bool isAppleScript = action && action->runAs() == QLatin1String("AppleScript");
     QPlainTextEdit* shown = isAppleScript ? m_appleScriptEditor : m_shellScriptEditor;
     m_placeholder->setCurrentIndex(isAppleScript ? 1 : 0);
+    setFocusProxy(shown);
     m_compileButton->setVisible(isAppleScript);
     show(nullptr, isAppleScript ? m_shellScriptEditor : m_appleScriptEditor);
     show(action, shown);
@@ -123,6 +128,7 @@ void LMScriptEditor::textChanged(const QPlainTextEdit* editor) {
         return;
     action->setScript(plainText(*editor));
     m_isChanged = true;
+    m_restTimer.start(Rest);
     if (m_scriptHost && editor == m_appleScriptEditor)
         m_notice->clear();
 }
@@ -141,7 +147,13 @@ bool LMScriptEditor::eventFilter(QObject* object, QEvent* event) {
         if (isBack || (key->key() == Qt::Key_Tab && key->modifiers() == Qt::ControlModifier))
             return focusNextPrevChild(!isBack);
     }
-    if (event->type() == QEvent::FocusOut && std::exchange(m_isChanged, false))
-        Q_EMIT editingEnded();
+    if (event->type() == QEvent::FocusOut)
+        endEditing();
     return QWidget::eventFilter(object, event);
+}
+
+void LMScriptEditor::endEditing() {
+    m_restTimer.stop();
+    if (std::exchange(m_isChanged, false))
+        Q_EMIT editingEnded();
 }

@@ -3,6 +3,7 @@
 
 #include "Model/Store/LMObjectID.h"
 
+#include <QTimer>
 #include <QWidget>
 
 class LMAction;
@@ -32,7 +33,7 @@ public:
     bool eventFilter(QObject* object, QEvent* event) override;
 
 Q_SIGNALS:
-    /// The keyboard has left a text that was changed.
+    /// The keyboard has left a text that was changed, or rests for a while.
     void editingEnded();
 
 private:
@@ -41,12 +42,14 @@ private:
     void show(const LMAction* action, QPlainTextEdit* editor);
     void textChanged(const QPlainTextEdit* editor);
     void compile();
+    void endEditing();
 
     LMObjectContext& m_context;
     LMScriptHost* m_scriptHost;
     LMObjectID m_action; ///< Whose script is shown.
     bool m_isLoading = false;
     bool m_isChanged = false;
+    QTimer m_restTimer;
     QPlainTextEdit* m_shellScriptEditor;
     QPlainTextEdit* m_appleScriptEditor;
     QPushButton* m_compileButton = nullptr;
