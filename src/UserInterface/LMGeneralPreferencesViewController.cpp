@@ -49,10 +49,15 @@ QCheckBox* checkBox(const char* name, const QString& text) {
     return box;
 }
 
-/// A row of the form, further away from the one before it than the lines of a row.
+/// A row of the form, further away from the one before it than the lines of a row. The caption
+/// stands on the line of the first of them.
 void addRow(QFormLayout& form, const QString& caption, QLayout* content) {
+    auto* label = new QLabel(caption);
+    const int lineHeight = content->itemAt(0)->sizeHint().height();
+    label->setContentsMargins(0, qMax(0, (lineHeight - label->sizeHint().height()) / 2), 0, 0);
+    label->setAlignment(Qt::AlignTrailing | Qt::AlignTop);
     content->setContentsMargins(0, 0, 0, GroupSpacing);
-    form.addRow(caption, content);
+    form.addRow(label, content);
 }
 
 template <class... Controls>
@@ -154,6 +159,7 @@ void LMGeneralPreferencesViewController::addRestoreControls(QFormLayout& form) {
     delay->setEnabled(onLaunch->isChecked());
     connect(onLaunch, &QCheckBox::toggled, delay, &QWidget::setEnabled);
     auto* launch = new QHBoxLayout;
+    launch->setSpacing(4);
     launch->addWidget(onLaunch);
     launch->addWidget(delay);
     launch->addStretch();

@@ -39,7 +39,7 @@ int columnWidth(const QTreeView& view, int column) {
     const int least = metrics.horizontalAdvance(title) + Padding;
     const int usual = column == LMWorkspaceListModel::Name       ? 24
                       : column == LMWorkspaceListModel::Displays ? 28
-                      : column == LMWorkspaceListModel::Status   ? 18
+                      : column == LMWorkspaceListModel::Status   ? 23
                                                                  : 0;
     return qMax(least, metrics.averageCharWidth() * usual);
 }
@@ -59,6 +59,7 @@ LMStoredWindowsListWindow::LMStoredWindowsListWindow(QAbstractItemModel& workspa
     splitter->addWidget(m_displayView);
     splitter->setStretchFactor(0, 3);
     splitter->setStretchFactor(1, 1);
+    splitter->setSizes({m_tableView->header()->length(), m_displayView->sizeHint().width()});
     splitter->setChildrenCollapsible(false);
     splitter->setHandleWidth(Margin);
     auto* row = new QHBoxLayout;
