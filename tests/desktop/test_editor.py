@@ -1,0 +1,125 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: MIT
+"""The editor of stored windows with real keys and clicks; what they do is read from the store."""
+from __future__ import annotations
+
+import os
+import sqlite3
+import sys
+import unittest
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parent.parent.parent / "tools"))
+from rig.desktop import Desktop  # noqa: E402
+from rig.probe import Frame  # noqa: E402
+from rig.processes import wait_until  # noqa: E402
+from rig.resident import Resident  # noqa: E402
+from rig.scenario import open_windows  # noqa: E402
+
+WINDOWS = (("xterm", "first shell", Frame(60, 80, 520, 340)), ("xterm", "second shell", Frame(700, 90, 530, 350)),
+           ("featherpad", "notes.txt", Frame(2100, 310, 555, 444)))
+
+
+class Editor(unittest.TestCase):
+    def setUp(self) -> None:
+        self.desktop = Desktop(os.environ.get("ROOK_TEST_MANAGER", "openbox"), "two")
+        self.addCleanup(self.desktop.close)
+        self.probe = self.desktop.probe
+        self.rook = Resident(self.desktop.session, headless=False, settings={})
+        open_windows(self.desktop, WINDOWS)
+        self.rook.do("store-all")
+        self.rook.do("show")
+        self.wait_for_window("Stored Windows")
+        self.press("Return")
+        self.editor = self.wait_for_window("2 Displays")
+
+    # Acting
+
+    def press(self, *keys: str) -> None:
+        self.probe.tool("xdotool", "key", *keys)
+
+    def type(self, text: str) -> None:
+        self.probe.tool("xdotool", "type", text)
+
+    def wait_for_window(self, title: str) -> int:
+        """The window of that name once it has the focus."""
+        def active() -> int:
+            found = self.probe.tool("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split()
+            return self.probe.active_window() if str(self.probe.active_window()) in found else 0
+        return wait_until(active, f"the window {title}", 20.0)
+
+    def drag_first_window_to_the_end(self) -> None:
+        x, y, *_ = self.probe.frame(self.editor)
+        self.probe.tool("xdotool", "mousemove", str(x + 500), str(y + 90), "mousedown", "1")
+        for step in range(1, 7):
+            self.probe.tool("xdotool", "mousemove", str(x + 500), str(y + 90 + 25 * step))
+        self.probe.tool("xdotool", "mouseup", "1")
+
+    # Looking
+
+    def applications(self) -> list[dict]:
+        return [application for workspace in self.rook.report("list")["workspaces"]
+                for application in workspace["applications"]]
+
+    def names(self) -> list[str]:
+        return [window["name"] for application in self.applications() if "xterm" in application["identifier"]
+                for window in application["windows"]]
+
+    def wait_for_names(self, *names: str) -> None:
+        wait_until(lambda: self.names() == list(names), f"{names}, not {self.names()}")
+
+    def actions(self) -> list[tuple[str, str]]:
+        with sqlite3.connect(f"file:{self.rook.store}?mode=ro", uri=True) as store:
+            return store.execute("SELECT label, script FROM Action").fetchall()
+
+    # Tests
+
+    def test_stored_windows(self) -> None:
+        first, second = self.names()
+        self.press("alt+p", "Down", "alt+w", "Down", "F2")
+        self.type("Kitchen & <b>sink")
+        self.press("Return")
+        self.wait_for_names(first, "Kitchen & <b>sink")
+        self.press("alt+Up")
+        self.wait_for_names("Kitchen & <b>sink", first)
+        self.press("Delete")
+        self.wait_for_names(first)
+        self.press("ctrl+z")
+        self.wait_for_names("Kitchen & <b>sink", first)
+        self.drag_first_window_to_the_end()
+        self.wait_for_names(first, "Kitchen & <b>sink")
+        # Down to nothing and back.
+        whole = self.applications()
+        self.press("alt+p", "Delete", "Delete")
+        wait_until(lambda: self.rook.report("list")["workspaces"] == [], "the workspace to go with its last window")
+        self.wait_for_window("Stored Windows")
+        self.press("ctrl+z", "ctrl+z")
+        self.wait_for_window("2 Displays")
+        wait_until(lambda: self.applications() == whole, "everything to be back")
+        self.press("Escape")
+        wait_until(lambda: self.editor not in self.probe.client_list(), "the editor to close")
+        self.rook.quit()
+        self.rook.start()
+        self.assertEqual(self.applications(), whole)
+
+    def test_actions(self) -> None:
+        ran = self.desktop.session.home / "ran"
+        self.press("alt+a", "s")
+        self.type("Mount")
+        self.press("Return")
+        wait_until(lambda: self.actions() == [("Mount", "#!/bin/bash\n\n")], "the action")
+        self.press("alt+s", "ctrl+End")
+        self.type(f"touch {ran}")
+        self.press("alt+n")
+        wait_until(ran.exists, "the script to run")
+        self.press("shift+Tab")
+        wait_until(lambda: self.actions() == [("Mount", f"#!/bin/bash\n\ntouch {ran}")], "the script to be saved")
+        # The workspace goes away under the editor, which then does nothing, whatever is pressed.
+        self.press("alt+p", "Delete", "Delete", "alt+c", "Delete")
+        wait_until(lambda: self.actions() == [], "the action to go")
+        self.press("Delete", "F2", "alt+a", "s", "alt+n", "Escape")
+        self.assertEqual(self.actions(), [])
+
+
+if __name__ == "__main__":
+    unittest.main()
