@@ -158,11 +158,9 @@ void LMStoredWindowsEditor::showWindow() {
         connect(m_window.get(), &Window::runActionRequested, this,
                 &LMStoredWindowsEditor::runAction);
         connect(m_window.get(), &Window::closing, this, &LMStoredWindowsEditor::windowWillClose);
-        LMCentreWindow(*m_window);
     }
     reloadTableViews();
-    LMBringToFront(*m_window, m_environment.desktop);
-    m_window->show();
+    LMPresentWindow(*m_window, m_environment.desktop);
 }
 
 void LMStoredWindowsEditor::close() {

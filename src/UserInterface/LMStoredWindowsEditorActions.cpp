@@ -8,7 +8,6 @@
 #include "UserInterface/Editing/LMTableView.h"
 #include "UserInterface/LMAlertWindow.h"
 #include "UserInterface/LMStoredWindowsEditor.h"
-#include "UserInterface/LMWindowPlacement.h"
 #include "Utilities/LMFormat.h"
 
 #include <QDir>
@@ -73,13 +72,9 @@ void LMStoredWindowsEditor::importScript(const QString& path) {
 
 // Its end is not acted upon, so nobody waits for it.
 void LMStoredWindowsEditor::showAlert(const LMAlert& alert) {
-    auto* window = new LMAlertWindow(alert);
-    window->setAttribute(Qt::WA_DeleteOnClose);
-    if (m_window)
-        connect(m_window.get(), &QObject::destroyed, window, &QWidget::close);
-    window->adjustSize();
-    LMCentreWindow(*window);
-    window->show();
+    auto* sheet = new LMAlertWindow(alert, m_window.get());
+    sheet->setAttribute(Qt::WA_DeleteOnClose);
+    sheet->open();
 }
 
 // --- running
