@@ -146,6 +146,10 @@ void LMApplicationDelegate::applicationWillTerminate() {
 }
 
 void LMApplicationDelegate::cleanAndSave() {
+    // The toolkit may leave in the middle of a command: half of what it stores is worse than what
+    // was stored before.
+    if (m_environment.activity.isBusy())
+        return;
     // A store that could not be read must not be cleaned: all its pictures would count as unused.
     if (!std::exchange(m_hasStore, false))
         return;

@@ -6,7 +6,21 @@
 #include "Controller/LMWorkspaceList.h"
 #include "Model/LMApplication.h"
 #include "Model/LMWorkspace.h"
+#include "Platform/LMDesktop.h"
+#include "Platform/LMEnvironment.h"
 #include "Utilities/LMFormat.h"
+
+namespace {
+
+/// A desktop that went away on the way has moved no more windows.
+LMCommandResult finish(LMCommandFrame& frame, const LMCommandParts& parts) {
+    const LMPermission permission = parts.environment.desktop.checkPermission();
+    if (!permission.isTrusted)
+        return LMCommandResult::refused(permission.missing.join(QLatin1Char(' ')));
+    return frame.finish();
+}
+
+} // namespace
 
 bool LMRestoreCommands::canRestoreAllWindows() const {
     const LMWorkspace* workspace = m_parts.workspaceList.currentWorkspace();
@@ -31,7 +45,7 @@ LMCommandResult LMRestoreCommands::restoreWindows(bool displayChanged) {
         LMProgressScope scope(m_parts.userInterface, label, false);
         workspace->restoreWindowsWithProgressWindowController(scope.progress(), displayChanged);
     }
-    return frame.finish();
+    return finish(frame, m_parts);
 }
 
 LMCommandResult LMRestoreCommands::restoreActiveApplicationWindows() {
@@ -66,5 +80,5 @@ LMCommandResult LMRestoreCommands::restoreApplication(const QString& bundleIdent
         LMProgressScope scope(m_parts.userInterface, label, true);
         workspace->restoreWindowsForApplication(bundleIdentifier);
     }
-    return frame.finish();
+    return finish(frame, m_parts);
 }

@@ -4,6 +4,7 @@
 #include "Categories/LMWorkspaceAdditions.h"
 #include "Controller/LMAlerts.h"
 #include "Controller/LMFrontmostApplication.h"
+#include "Controller/LMReplacement.h"
 #include "Controller/LMUserInterface.h"
 #include "Controller/LMWorkspaceList.h"
 #include "Model/LMApplication.h"
@@ -83,7 +84,10 @@ LMCommandResult LMStoreCommands::storeActiveApplicationWindows(bool overwrite,
         return LMCommandResult::refused(LMRefusal::noCurrentWorkspace());
     {
         LMProgressScope scope(m_parts.userInterface, label, true);
+        LMReplacement replacement(m_parts.environment, *workspace, scope.progress());
         workspace->storeWindowsForApplication(active.bundleIdentifier);
+        if (!replacement.finish())
+            return LMCommandResult::refused(replacement.refusal());
         m_parts.store.saveWindows();
     }
     reportSuccess(Keys::SuppressStoreActiveApplicationSuccess,
@@ -194,7 +198,10 @@ LMCommandResult LMStoreCommands::storeAllWindows(bool overwrite, bool withConfir
         return LMCommandResult::refused(LMRefusal::noCurrentWorkspace());
     {
         LMProgressScope scope(m_parts.userInterface, label, false);
-        workspace->storeWindowsWithProgressWindowController(scope.progress());
+        LMReplacement replacement(m_parts.environment, *workspace, scope.progress());
+        workspace->storeWindowsWithProgressWindowController(replacement);
+        if (!replacement.finish())
+            return LMCommandResult::refused(replacement.refusal());
         m_parts.store.saveWindows();
     }
     reportSuccess(Keys::SuppressStoreAllSuccess,

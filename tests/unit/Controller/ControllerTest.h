@@ -44,11 +44,15 @@ public:
     void showWindow() override { ++shown; }
     void close() override { --shown; }
     void setMaxValue(double steps) override { maxValue = steps; }
-    void increment(const LMWorkspace*) override {}
+    void increment(const LMWorkspace*) override {
+        if (duringProgress)
+            duringProgress();
+    }
 
     LMAlertAnswer answer{LMAlertAnswer::FirstButton + 1, false}; ///< To every alert.
     bool isModal = false, showsWindows = true;
-    std::function<void()> duringModal; ///< What arrives through the alert's event loop.
+    std::function<void()> duringModal;    ///< What arrives through the alert's event loop.
+    std::function<void()> duringProgress; ///< What happens at each step.
     QStringList alerts, calls, labels;
     int shown = 0;
     double maxValue = 0;

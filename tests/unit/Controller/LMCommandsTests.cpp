@@ -93,6 +93,25 @@ TEST_F(ControllerTest, CommandsThatCannotRunSayWhy) {
         << "the user is told once";
 }
 
+TEST_F(ControllerTest, ADesktopThatGoesAwayOnTheWayTakesNothingFromTheStore) {
+    perform("SAll");
+    const LMObjectContext& context = store.managedObjectContext();
+    const auto stored = context.objects<LMStoredWindow>();
+    for (const bool returns : {false, true}) {
+        int steps = 0;
+        userInterface.duringProgress = [&] {
+            desktop.world().permission = {++steps > 1 && returns, {u"No window manager."_s}};
+        };
+        EXPECT_TRUE(perform("SAll", Overwrite).refusal.contains(u"No window manager.")) << returns;
+        EXPECT_EQ(context.objects<LMStoredWindow>(), stored) << returns;
+        desktop.world().permission = {true, {}};
+    }
+    userInterface.duringProgress = [&] {
+        desktop.world().permission = {false, {u"No window manager."_s}};
+    };
+    EXPECT_EQ(perform("RAll").refusal, u"No window manager."_s);
+}
+
 TEST_F(ControllerTest, WithoutAnyActiveApplicationScriptsGetNoAnswer) {
     desktop.focus({});
     for (const char* code : {"RApp", "SApp", "SWin"})
