@@ -53,7 +53,7 @@ QCheckBox* checkBox(const char* name, const QString& text) {
 /// stands on the line of the first of them.
 void addRow(QFormLayout& form, const QString& caption, QLayout* content) {
     auto* label = new QLabel(caption);
-    const int lineHeight = content->itemAt(0)->sizeHint().height();
+    const int lineHeight = content->itemAt(0)->widget()->sizeHint().height();
     label->setContentsMargins(0, qMax(0, (lineHeight - label->sizeHint().height()) / 2), 0, 0);
     label->setAlignment(Qt::AlignTrailing | Qt::AlignTop);
     content->setContentsMargins(0, 0, 0, GroupSpacing);
