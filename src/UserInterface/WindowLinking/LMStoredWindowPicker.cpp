@@ -2,6 +2,7 @@
 #include "UserInterface/WindowLinking/LMStoredWindowPicker.h"
 
 #include "Categories/LMWorkspaceAdditions.h"
+#include "Controller/LMCommandFrame.h"
 #include "Model/LMApplication.h"
 #include "Model/LMStoredWindow.h"
 #include "Model/LMStoredWindowsStore.h"
@@ -109,6 +110,8 @@ void LMStoredWindowPicker::setWorkspace(LMWorkspace& workspace) {
         for (LMStoredWindow* storedWindow : application->orderedWindows())
             windows.append(pickable(*storedWindow));
     }
+    m_view->setNote(running ? LMRefusal::notStored(running->localizedName)
+                            : LMRefusal::noActiveApplication());
     m_view->setWindows({}); // The places below are not theirs.
     place();
     m_view->setWindows(windows);
@@ -200,6 +203,7 @@ void LMStoredWindowPicker::close(bool animated) {
         orderOut();
     else if (wasOpen)
         fadeTo(0);
+    m_view->setNote({});
     m_view->setWindows({});
 }
 

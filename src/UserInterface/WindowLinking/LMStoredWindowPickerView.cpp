@@ -2,11 +2,13 @@
 #include "UserInterface/WindowLinking/LMStoredWindowPickerView.h"
 
 #include "UserInterface/LMPresentableText.h"
+#include "UserInterface/WindowLinking/LMFullscreenWindow.h"
 
 #include <QAccessibleWidget>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QToolTip>
 #include <QWindow>
 
@@ -59,6 +61,23 @@ void LMStoredWindowPickerView::setUsableFrame(const QRectF& usableFrame) {
         return;
     m_usableFrame = usableFrame;
     setUpSubviews();
+}
+
+void LMStoredWindowPickerView::setNote(const QString& note) {
+    m_note = LMPresentableLine(note);
+    setAccessibleDescription(m_note);
+    update();
+}
+
+void LMStoredWindowPickerView::paintEvent(QPaintEvent*) {
+    if (!m_windows.isEmpty() || m_note.isEmpty())
+        return;
+    QPainter painter(this);
+    if (const auto* overlay = qobject_cast<LMFullscreenWindow*>(window()))
+        painter.setOpacity(overlay->contentAlpha());
+    painter.setPen(QColor(Qt::lightGray));
+    painter.drawText(LMToolkitRect(m_usableFrame, height()), Qt::AlignCenter | Qt::TextWordWrap,
+                     m_note);
 }
 
 void LMStoredWindowPickerView::resizeEvent(QResizeEvent*) {

@@ -22,6 +22,9 @@ public:
     const QList<LMPickableWindow>& windows() const { return m_windows; }
     void setWindows(const QList<LMPickableWindow>& windows);
 
+    /// Stands in the middle as long as there are no windows, unless it is empty.
+    void setNote(const QString& note);
+
     /// What docks and panels leave free, with its origin at the bottom left of the view.
     const QRectF& usableFrame() const { return m_usableFrame; }
     void setUsableFrame(const QRectF& usableFrame);
@@ -52,6 +55,7 @@ Q_SIGNALS:
 
 protected:
     bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
@@ -69,6 +73,7 @@ private:
     void showWholeLabel(const QPoint& globalPlace);
 
     QList<LMPickableWindow> m_windows;
+    QString m_note;
     QRectF m_usableFrame;
     QList<LMStoredWindowPickerWindowView*> m_windowViews; ///< Children.
     LMStoredWindowPickerWindowView* m_highlighted = nullptr;

@@ -167,6 +167,8 @@ TEST_F(WindowPicker, OnlyScreenshotsAreClickable) {
         workspace().applicationForBundleIdentifier(u"org.browser"_s));
     show();
     EXPECT_TRUE(view().columns() == 0 && view().windowViews().isEmpty());
+    EXPECT_EQ(view().accessibleDescription(),
+              u"No windows are stored for “org.browser” with the displays attached now."_s);
     picker.close(false);
     EXPECT_FALSE(view().isVisible()) << "at once";
 }
