@@ -82,6 +82,7 @@ void LMWidgetUserInterface::displayMenuAtCursor(LMStatusMenu& menu) {
 }
 
 void LMWidgetUserInterface::showAboutPanel() {
+    closeStoredWindowPicker();
     followAppearance();
     m_aboutWindowController.showWindow();
     LMBringToFront(*m_aboutWindowController.window(), m_environment.desktop);
@@ -112,12 +113,14 @@ void LMWidgetUserInterface::setUpPreferencesWindow(LMHotKeyCenter& hotKeys) {
 }
 
 void LMWidgetUserInterface::showPreferencesWindow() {
+    closeStoredWindowPicker();
     followAppearance();
     if (m_preferencesWindowController)
         m_preferencesWindowController->showWindow();
 }
 
 void LMWidgetUserInterface::showStoredWindowsList() {
+    closeStoredWindowPicker();
     followAppearance();
     if (!m_storedWindowsList)
         m_storedWindowsList = std::make_unique<LMStoredWindowsList>(m_environment, m_store);
