@@ -22,6 +22,7 @@
 #include <chrono>
 #include <limits>
 #include <thread>
+#include <unistd.h>
 
 namespace {
 
@@ -31,9 +32,23 @@ constexpr QLatin1String Interface{"org.rook.Rook1"};
 constexpr std::chrono::seconds QuitDeadline{30};
 constexpr std::chrono::milliseconds StartDeadline{10000};
 constexpr std::chrono::milliseconds StartPollInterval{20};
-constexpr int NoticeableDelay = 2000; // Milliseconds.
+constexpr std::chrono::milliseconds NoticeableDelay{2000};
 /// Restoring takes as long as it takes: scripts may run before it.
 constexpr int NoTimeout = std::numeric_limits<int>::max();
+
+/// Whether this process runs on behalf of that one (proc(5), the fourth field).
+bool isAncestor(qint64 process) {
+    qint64 ancestor = getppid();
+    while (ancestor != process && ancestor > 1) {
+        QFile file(QStringLiteral("/proc/%1/stat").arg(ancestor));
+        if (!file.open(QIODevice::ReadOnly))
+            return false;
+        // The name in parentheses may hold anything.
+        const QByteArray text = file.readAll();
+        ancestor = text.mid(text.lastIndexOf(')') + 4).split(' ').value(0).toLongLong();
+    }
+    return ancestor == process;
+}
 
 } // namespace
 
@@ -47,6 +62,9 @@ int LMClient::run(const LMInvocation& invocation) {
     }
     if (!isResidentRunning())
         return notRunning();
+    if (const QString activity = activityOfCaller(); !activity.isEmpty())
+        return failed(
+            LMFormat(LMLocalized("Rook waits for the script that calls it. %@"), {activity}));
     switch (invocation.kind) {
     case LMInvocation::Kind::Command:
         return command(invocation);
@@ -97,7 +115,7 @@ int LMClient::quit(const LMInvocation& invocation) {
     QTimer deadline;
     QObject::connect(&deadline, &QTimer::timeout, &loop, [&loop] { loop.exit(1); });
     const QDBusMessage reply = call(invocation);
-    if (reply.type() != QDBusMessage::ReplyMessage)
+    if (reply.type() != QDBusMessage::ReplyMessage && isResidentRunning())
         return failed(reply.errorMessage());
     deadline.start(QuitDeadline);
     if (isResidentRunning() && loop.exec() != 0)
@@ -117,9 +135,9 @@ QDBusMessage LMClient::call(const LMInvocation& invocation) const {
     QElapsedTimer sinceStart;
     sinceStart.start();
     while (true) {
-        const QDBusMessage reply = invocation.method == QLatin1String("Status")
-                                       ? callNotingDelay(message)
-                                       : ask(message, NoTimeout);
+        // Storing and restoring may take long; what takes a moment only is noticed when it does
+        // not.
+        const QDBusMessage reply = ask(message, invocation.kind != LMInvocation::Kind::Command);
         // Rook has its name before it has opened its store: it will serve in a moment.
         const bool isStarting =
             reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.UnknownObject");
@@ -129,34 +147,44 @@ QDBusMessage LMClient::call(const LMInvocation& invocation) const {
     }
 }
 
-// A process that is held by a script cannot answer, but it has left a note.
-QDBusMessage LMClient::callNotingDelay(const QDBusMessage& message) const {
-    const QDBusMessage reply = ask(message, NoticeableDelay);
-    if (reply.errorName() != QLatin1String("org.freedesktop.DBus.Error.NoReply"))
-        return reply;
-    print(m_errors, LMFormat(LMLocalized("rook: Rook is busy and answers later. %@"),
-                             {LMTables::printable(activity())}));
-    return ask(message, NoTimeout);
-}
-
 /// A call that blocks the event loop would never learn that the bus is gone.
-QDBusMessage LMClient::ask(const QDBusMessage& message, int milliseconds) const {
-    const QDBusPendingCallWatcher watcher(m_bus.asyncCall(message, milliseconds));
+QDBusMessage LMClient::ask(const QDBusMessage& message, bool notesDelay) const {
+    const QDBusPendingCallWatcher watcher(m_bus.asyncCall(message, NoTimeout));
     QEventLoop loop;
     QObject::connect(&watcher, &QDBusPendingCallWatcher::finished, &loop, &QEventLoop::quit);
+    // A process that is held by a script cannot answer, but it has left a note.
+    QTimer delay;
+    delay.setSingleShot(true);
+    QObject::connect(&delay, &QTimer::timeout, &loop, [this] {
+        print(m_errors, LMFormat(LMLocalized("rook: Rook is busy and answers later. %@"),
+                                 {LMTables::printable(activity())}));
+    });
+    if (notesDelay)
+        delay.start(NoticeableDelay);
     if (!watcher.isFinished())
         loop.exec();
     return watcher.reply();
 }
 
+/// 0 when nobody knows.
+qint64 LMClient::residentProcess() const {
+    return m_bus.interface()->servicePid(Service).value();
+}
+
 QString LMClient::activity() const {
-    const QDBusReply<uint> process = m_bus.interface()->servicePid(Service);
-    QFile file(LMActivityFilePath(process.value()));
-    if (!process.isValid() || !file.open(QIODevice::ReadOnly))
+    QFile file(LMActivityFilePath(residentProcess()));
+    if (!file.open(QIODevice::ReadOnly))
         return {};
     const QJsonArray current =
         QJsonDocument::fromJson(file.readAll())[QLatin1String("current")].toArray();
-    return LMTables::activity(current.last().toObject());
+    return current.isEmpty() ? QString() : LMTables::activity(current.last().toObject());
+}
+
+/// What Rook is doing if it is Rook that runs this command, through a script: it waits for the
+/// script, so the script must not wait for it.
+QString LMClient::activityOfCaller() const {
+    const qint64 resident = residentProcess();
+    return resident != 0 && isAncestor(resident) ? activity() : QString();
 }
 
 QString LMClient::refusal() const {

@@ -24,9 +24,10 @@ private:
 
     bool isResidentRunning() const;
     QDBusMessage call(const LMInvocation& invocation) const;
-    QDBusMessage ask(const QDBusMessage& message, int milliseconds) const;
-    QDBusMessage callNotingDelay(const QDBusMessage& message) const;
+    QDBusMessage ask(const QDBusMessage& message, bool notesDelay) const;
+    qint64 residentProcess() const;
     QString activity() const;
+    QString activityOfCaller() const;
     QString refusal() const;
     int notRunning() const;
     int failed(const QString& why) const;

@@ -109,8 +109,8 @@ class Events(unittest.TestCase):
 
     def test_a_script_that_holds_rook_can_be_seen_from_outside(self) -> None:
         self.open_and_store()
-        marker = self.desktop.session.home / "go"
-        self.add_action(f"#!/bin/sh\nwhile ! test -e '{marker}'; do sleep 0.05; done")
+        marker, said = self.desktop.session.home / "go", self.desktop.session.home / "said"
+        self.add_action(f"#!/bin/sh\n'{self.rook.binary}' quit 2>'{said}'\nwhile ! test -e '{marker}'; do sleep 0.05; done")
         scatter(self.desktop, self.opened, 1)
         restore = subprocess.Popen([self.rook.binary, "restore-all"], env=self.desktop.environment)
         wait_until(lambda: self.logged("Running the action “Hold” of “2 Displays”…"), "the script to run")
@@ -118,6 +118,7 @@ class Events(unittest.TestCase):
                                   stdout=subprocess.PIPE, stderr=subprocess.PIPE)
         assert status.stderr
         self.assertIn("Running the action “Hold” of “2 Displays”… since", status.stderr.readline())
+        self.assertIn("Rook waits for the script that calls it.", said.read_text())
         marker.touch()
         self.assertIn("Before", status.communicate(timeout=60)[0])
         self.assertEqual(restore.wait(60), 0)
