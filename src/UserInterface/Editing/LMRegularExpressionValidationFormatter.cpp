@@ -9,6 +9,13 @@ namespace {
 
 const QColor ValidColour = QColor::fromRgbF(0.27F, 0.63F, 0.02F);
 constexpr qreal InvalidObliqueness = 0.3;
+constexpr float SelectedTint = 0.15F;
+
+QColor mixed(const QColor& ground, const QColor& tint, float share) {
+    const auto part = [share](float a, float b) { return a + (b - a) * share; };
+    return QColor::fromRgbF(part(ground.redF(), tint.redF()), part(ground.greenF(), tint.greenF()),
+                            part(ground.blueF(), tint.blueF()));
+}
 
 } // namespace
 
@@ -31,8 +38,12 @@ void LMRegularExpressionValidationFormatter::initStyleOption(QStyleOptionViewIte
     const auto form = displayForm(stringForObjectValue(index.data(Qt::EditRole)));
     if (!form)
         return;
-    // On a selected row the colours could not be told from its background; the slant can.
     option->palette.setColor(QPalette::Text, form->colour);
+    // On the full colour of a selection neither could be told from it.
+    option->palette.setColor(QPalette::HighlightedText, form->colour);
+    option->palette.setColor(QPalette::Highlight,
+                             mixed(option->palette.color(QPalette::Base),
+                                   option->palette.color(QPalette::Highlight), SelectedTint));
     option->font.setItalic(form->obliqueness > 0);
 }
 
