@@ -87,9 +87,14 @@ LMLoginItemsController::LMLoginItemsController(LMEnvironment& environment, QStri
         m_folders.append(directory + QStringLiteral("/autostart"));
     m_settling.setSingleShot(true);
     m_settling.setInterval(100ms);
-    const auto changed = [this] { m_settling.start(); };
-    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, changed);
-    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, changed);
+    connect(&m_watcher, &QFileSystemWatcher::fileChanged, this, [this] { m_settling.start(); });
+    connect(&m_watcher, &QFileSystemWatcher::directoryChanged, this, [this](const QString& path) {
+        // Much happens in the folders above that is none of our business.
+        const QStringList watched = m_watcher.directories(), wanted = nearestFolders();
+        if (m_folders.contains(path) ||
+            QSet(watched.begin(), watched.end()) != QSet(wanted.begin(), wanted.end()))
+            m_settling.start();
+    });
     connect(&m_settling, &QTimer::timeout, this, [this] {
         renewWatch();
         m_environment.notificationCenter.postNotification(LMNotification::LoginItemsChanged);
@@ -187,31 +192,28 @@ QString LMLoginItemsController::hide(const QString& path) {
 // --- watching
 // -------------------------------------------------------------------------------------
 
-/// The folders with their entries, or, where there is no folder yet, the nearest one above it.
-QStringList LMLoginItemsController::watchedPaths() const {
-    QStringList paths;
-    for (const QString& folder : m_folders) {
-        QString nearest = folder;
-        while (!QFileInfo(nearest).isDir())
-            nearest = QFileInfo(nearest).path();
-        paths.append(nearest);
-        if (nearest == folder)
-            for (const QString& name : entryNames(folder))
-                paths.append(folder + QLatin1Char('/') + name);
+/// The folders, or, where there is none yet, the nearest one above it.
+QStringList LMLoginItemsController::nearestFolders() const {
+    QStringList nearest = m_folders;
+    for (QString& folder : nearest) {
+        while (!QFileInfo(folder).isDir())
+            folder = QFileInfo(folder).path();
     }
-    paths.removeDuplicates();
-    return paths;
+    nearest.removeDuplicates();
+    return nearest;
 }
 
 /// The system watches the file that was there, not the path: one that replaced it is another.
 void LMLoginItemsController::renewWatch() {
-    if (const QStringList files = m_watcher.files(); !files.isEmpty())
-        m_watcher.removePaths(files);
-    const QStringList paths = watchedPaths();
+    QStringList paths = nearestFolders();
     QStringList stale = m_watcher.directories();
     stale.removeIf([&](const QString& path) { return paths.contains(path); });
+    stale.append(m_watcher.files());
     if (!stale.isEmpty())
         m_watcher.removePaths(stale);
+    for (const QString& folder : m_folders)
+        for (const QString& name : entryNames(folder))
+            paths.append(folder + QLatin1Char('/') + name);
     if (!paths.isEmpty())
         m_watcher.addPaths(paths);
 }

@@ -40,7 +40,7 @@ private:
     QString systemFile(const QString& name) const;
     QString hide(const QString& path);
     bool startsThisProgram(const QString& path) const;
-    QStringList watchedPaths() const;
+    QStringList nearestFolders() const;
     void renewWatch();
 
     LMEnvironment& m_environment;

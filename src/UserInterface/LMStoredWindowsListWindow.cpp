@@ -99,6 +99,8 @@ void LMStoredWindowsListWindow::makeTableView(QAbstractItemModel& workspaces) {
     view.header()->setSectionsMovable(false);
     for (int column = 0; column < LMWorkspaceListModel::ColumnCount; ++column)
         view.setColumnWidth(column, columnWidth(view, column));
+    connect(&workspaces, &QAbstractItemModel::layoutChanged, &view,
+            [&view] { view.scrollTo(view.currentIndex()); }); // A new name may be elsewhere.
     connect(&view, &QTreeView::doubleClicked, this, &LMStoredWindowsListWindow::editRequested);
 
     m_emptyLabel->setObjectName(QStringLiteral("emptyLabel"));

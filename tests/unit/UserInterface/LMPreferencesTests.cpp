@@ -6,6 +6,7 @@
 #include "UserInterface/LMPreferencesWindowController.h"
 #include "UserInterface/LMShortcutRecorder.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QDir>
 #include <QDoubleSpinBox>
@@ -184,6 +185,21 @@ TEST_F(Preferences, StartAtLoginShowsTheLoginItemsNotTheSetting) {
     start.click();
     EXPECT_FALSE(start.isChecked()) << "it could not be done, and the user is told";
     EXPECT_TRUE(QApplication::activeModalWidget());
+}
+
+TEST_F(Preferences, EveryControlHasANameForThoseWhoListen) {
+    preferences->showWindow();
+    for (const QWidget* control : preferences->window()->findChildren<QWidget*>()) {
+        if (control->focusPolicy() == Qt::NoFocus || control->focusProxy())
+            continue;
+        QAccessibleInterface* spoken =
+            QAccessible::queryAccessibleInterface(const_cast<QWidget*>(control));
+        ASSERT_TRUE(spoken) << control->objectName().toStdString();
+        const bool isPart = qobject_cast<QAbstractSpinBox*>(control->parentWidget()) != nullptr;
+        EXPECT_TRUE(isPart || !spoken->text(QAccessible::Name).isEmpty() ||
+                    spoken->role() == QAccessible::PageTabList)
+            << control->metaObject()->className() << control->objectName().toStdString();
+    }
 }
 
 TEST_F(Preferences, WhatIsTypedBecomesTheShortcut) {
