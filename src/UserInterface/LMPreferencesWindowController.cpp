@@ -17,6 +17,7 @@ namespace {
 
 constexpr int ImageEdge = 24;
 constexpr int Margin = 12;
+constexpr QSize Decoration(8, 40); ///< What window managers put around a window, about.
 
 } // namespace
 
@@ -78,7 +79,7 @@ void LMPreferencesWindowController::showPane(int index) {
 
 /// As large as the largest pane, and never larger than the screen. Not for the user to resize.
 void LMPreferencesWindowController::fitWindow() {
-    const QSize room = m_window->screen()->availableSize();
+    const QSize room = m_window->screen()->availableSize() - Decoration;
     for (int i = 0; i < m_tabs->count(); ++i) {
         auto* area = static_cast<QScrollArea*>(m_tabs->widget(i));
         area->setMinimumSize(area->widget()->sizeHint());
