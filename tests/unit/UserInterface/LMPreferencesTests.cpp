@@ -20,8 +20,8 @@ namespace {
 
 constexpr quint32 Control = LMModifier::Control, Shift = LMModifier::Shift,
                   Option = LMModifier::Option;
-constexpr quint32 ControlKey = 0xffe3, ShiftKey = 0xffe1, EscapeKey = 0xff1b, TabKey = 0xff09,
-                  BackspaceKey = 0xff08, F9 = 0xffc6;
+constexpr quint32 ControlKey = 0xffe3, EscapeKey = 0xff1b, TabKey = 0xff09, BackspaceKey = 0xff08,
+                  F9 = 0xffc6;
 
 LMShortcut shortcut(quint32 keysym, quint32 flags) {
     return LMShortcut::shortcutWithKeysym(keysym, flags).value();
@@ -172,18 +172,13 @@ TEST_F(Preferences, WarningsAreResetAllAtOnce) {
 
 TEST_F(Preferences, StartAtLoginShowsTheLoginItemsNotTheSetting) {
     defaults.setObject(Keys::StartRookAtLogin, true);
+    QDir().mkpath(test.path(u"home"_s));
+    LMWriteFile(test.path(u"home/autostart"_s)); // In the way of the folder.
     preferences->showWindow();
-    QCheckBox& start = box(u"startAtLoginCheckbox"_s);
-    const QString file = test.path(u"home/autostart/org.rook.Rook.desktop"_s);
-    EXPECT_FALSE(start.isChecked());
-    start.click();
-    EXPECT_TRUE(QFile::exists(file));
-    QFile::remove(file);
-    EXPECT_TRUE(wait([&] { return !start.isChecked(); }));
-    QDir(test.path(u"home/autostart"_s)).removeRecursively();
-    LMWriteFile(test.path(u"home/autostart"_s));
-    start.click();
-    EXPECT_FALSE(start.isChecked()) << "it could not be done, and the user is told";
+    for (int clicks = 0; clicks < 2; ++clicks) {
+        EXPECT_FALSE(box(u"startAtLoginCheckbox"_s).isChecked());
+        box(u"startAtLoginCheckbox"_s).click();
+    }
     EXPECT_TRUE(QApplication::activeModalWidget());
 }
 
@@ -237,7 +232,6 @@ TEST_F(Preferences, WhatIsTypedBecomesTheShortcut) {
         EXPECT_EQ(subject.text(), row.text) << row.why;
         subject.stopRecording();
     }
-    defaults.setObject(key, shortcut(F9, 0).data());
     for (const bool isRecording : {true, false}) {
         defaults.setObject(key, shortcut(F9, 0).data());
         if (isRecording)
@@ -248,10 +242,8 @@ TEST_F(Preferences, WhatIsTypedBecomesTheShortcut) {
         EXPECT_FALSE(defaults.hasObject(key)) << isRecording;
     }
     subject.startRecording();
-    press(subject, ShiftKey, 0, false);
-    EXPECT_EQ(subject.text(), u"Shift+…"_s);
-    press(subject, ShiftKey, Shift);
-    EXPECT_EQ(subject.text(), u"Type Shortcut…"_s);
+    press(subject, ControlKey, 0);
+    EXPECT_EQ(subject.text(), u"Type Shortcut…"_s) << "nothing is held any more";
     find<QTabWidget>({}).setCurrentIndex(0);
     EXPECT_FALSE(subject.isRecording()) << "the pane has disappeared";
 }
@@ -272,7 +264,6 @@ TEST_F(Preferences, ARecordedHotKeyWorksAtOnceAndConflictsAreNamed) {
     EXPECT_EQ(button(recorder(second)).accessibleDescription(), message(second));
     EXPECT_EQ(button(recorder(second)).accessibleName(), u"Store All Windows: Ctrl+R"_s);
     desktop.hotKeys().press(onR);
-    EXPECT_EQ(fired, QStringList{first});
     recorder(first).findChild<QToolButton*>()->click();
     EXPECT_EQ(message(second), QString());
     desktop.hotKeys().press(onR);
