@@ -109,6 +109,7 @@ private:
     void reportUnreadAttributes(const Loading& loading);
 
     LMStoreChanges changesToWrite() const;
+    LMResult<void, QString> writeChanges();
     void didSave();
 
     static bool isYounger(const LMManagedObject& object, const Mark& mark);

@@ -2,6 +2,7 @@
 #include "Model/Store/LMObjectContext.h"
 #include "Model/Store/LMObjectModel.h"
 #include "Model/Store/LMPersistentStore.h"
+#include "Platform/LMEnvironment.h"
 
 bool LMObjectContext::hasChanges() const {
     return !changesToWrite().isEmpty();
@@ -29,14 +30,23 @@ LMResult<void, QString> LMObjectContext::save() {
         return Result::failure(QStringLiteral("There is no store to save to."));
     if (m_loadFailure)
         return Result::failure(*m_loadFailure);
+    auto written = writeChanges();
+    if (written)
+        didSave();
+    return written;
+}
+
+LMResult<void, QString> LMObjectContext::writeChanges() {
     const LMStoreChanges changes = changesToWrite();
-    if (!changes.isEmpty()) {
-        auto written = m_store->write(changes);
-        if (!written)
-            return written;
-    }
-    didSave();
-    return Result::success();
+    if (changes.isEmpty())
+        return LMResult<void, QString>::success();
+    auto written = m_store->write(changes);
+    if (written || !m_store->remakeIfMissing(m_environment.logger))
+        return written;
+    for (const Entity& entity : m_entities)
+        for (const auto& object : entity.objects)
+            noteChange(*object);
+    return m_store->write(changesToWrite());
 }
 
 void LMObjectContext::didSave() {

@@ -5,11 +5,13 @@
 #include "Model/Store/LMObjectModel.h"
 #include "Model/Store/LMStoreFile.h"
 #include "Model/Store/LMStoreSchema.h"
+#include "Utilities/LMBaseDirectories.h"
 #include "Utilities/LMLogger.h"
 
 #include <QFile>
 #include <QFileInfo>
 
+#include <sqlite3.h>
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Exception.h>
 #include <SQLiteCpp/Statement.h>
@@ -23,6 +25,8 @@ namespace {
 constexpr int busyTimeoutMilliseconds = 2000;
 
 QString errorText(const QString& path, const SQLite::Exception& exception) {
+    if (exception.getExtendedErrorCode() == SQLITE_READONLY_DBMOVED)
+        return path + QStringLiteral(": the file was moved or replaced while Rook was using it");
     return QStringLiteral("%1: %2 (%3)")
         .arg(path, QString::fromUtf8(exception.what()))
         .arg(exception.getExtendedErrorCode());
@@ -220,4 +224,20 @@ LMResult<void, QString> LMPersistentStore::write(const LMStoreChanges& changes) 
     }
     d->writtenNextKeys = changes.nextKeys;
     return Result::success();
+}
+
+bool LMPersistentStore::remakeIfMissing(const LMLogger& logger) {
+    const QFileInfo file(d->path);
+    // An empty one is what a full disk left of the last attempt.
+    if (file.exists() && file.size() > 0)
+        return false;
+    logger.warning(QStringLiteral("%@ was removed; a new store is made"), {d->path});
+    (void)LMCreateDirectory(file.path());
+    // The new store takes the lock, which this one has for good.
+    (void)LMFolderLock(std::move(d->lock));
+    auto made = open(d->path, d->model, logger);
+    if (!made)
+        return false;
+    d = std::move((*made)->d);
+    return true;
 }

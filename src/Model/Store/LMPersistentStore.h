@@ -57,6 +57,10 @@ public:
     /// Writes all changes in one transaction, or nothing at all.
     LMResult<void, QString> write(const LMStoreChanges& changes);
 
+    /// Makes a new file when somebody has removed the one that was open, and answers whether it
+    /// did: then the caller has everything to write, not only what changed.
+    bool remakeIfMissing(const LMLogger& logger);
+
     /// Keys are 1 … maximumKey.
     static constexpr qint64 maximumKey = qint64(1) << 62;
 

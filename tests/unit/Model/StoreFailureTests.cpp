@@ -48,3 +48,30 @@ TEST_F(ModelTest, AnInterruptedSaveIsUndone) {
     EXPECT_EQ(storedTitles(), QStringList({u"a"_s, u"b"_s}));
     EXPECT_EQ(all<LMWindow>().size(), 2u);
 }
+
+TEST_F(ModelTest, ARemovedStoreIsMadeAnewWithEverythingThatIsRemembered) {
+    const QString folder = QFileInfo(path()).path();
+    for (const bool withFolder : {false, true}) {
+        makeStore();
+        reopen();
+        EXPECT_EQ(all<LMStoredWindow>().size(), 2U);
+        ASSERT_TRUE(withFolder ? QDir(folder).removeRecursively() : QFile::remove(path()));
+        LMWithFullDisk(512, [&] {
+            all<LMStoredWindow>().front()->setLabel(u"changed"_s);
+            EXPECT_FALSE(context().save());
+        });
+        all<LMStoredWindow>().back()->setLabel(u"later"_s);
+        EXPECT_TRUE(context().save());
+        reopen();
+        EXPECT_EQ(storedTitles(), QStringList({u"a"_s, u"b"_s})) << withFolder;
+        EXPECT_EQ(all<LMStoredWindow>().front()->label(), u"changed"_s);
+        // Somebody else's file is not written over.
+        ASSERT_TRUE(QFile::remove(path()));
+        LMWriteFile(path(), "a copy of the user's");
+        all<LMStoredWindow>().front()->setLabel(u"again"_s);
+        EXPECT_FALSE(context().save());
+        EXPECT_EQ(LMFileContent(path()), "a copy of the user's");
+        QFile::remove(path());
+        reopen();
+    }
+}
