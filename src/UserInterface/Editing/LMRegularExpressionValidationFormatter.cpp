@@ -11,12 +11,6 @@ const QColor ValidColour = QColor::fromRgbF(0.27F, 0.63F, 0.02F);
 constexpr qreal InvalidObliqueness = 0.3;
 constexpr float SelectedTint = 0.15F;
 
-QColor mixed(const QColor& ground, const QColor& tint, float share) {
-    const auto part = [share](float a, float b) { return a + (b - a) * share; };
-    return QColor::fromRgbF(part(ground.redF(), tint.redF()), part(ground.greenF(), tint.greenF()),
-                            part(ground.blueF(), tint.blueF()));
-}
-
 } // namespace
 
 QString LMRegularExpressionValidationFormatter::stringForObjectValue(const QVariant& value) {

@@ -36,6 +36,9 @@ void LMTextCellDelegate::setModelData(QWidget* editor, QAbstractItemModel* model
 void LMTextCellDelegate::initStyleOption(QStyleOptionViewItem* option,
                                          const QModelIndex& index) const {
     QStyledItemDelegate::initStyleOption(option, index);
+    // Styles derive a box's outline from the window's colour, which a dark table swallows.
+    option->palette.setColor(QPalette::Window, mixed(option->palette.color(QPalette::Base),
+                                                     option->palette.color(QPalette::Text), 0.5F));
     // Where there is more than text the direction orders the parts, too.
     if (option->features &
         (QStyleOptionViewItem::HasDecoration | QStyleOptionViewItem::HasCheckIndicator))
@@ -43,4 +46,10 @@ void LMTextCellDelegate::initStyleOption(QStyleOptionViewItem* option,
     option->displayAlignment =
         QStyle::visualAlignment(option->direction, option->displayAlignment) | Qt::AlignAbsolute;
     option->direction = option->text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
+}
+
+QColor LMTextCellDelegate::mixed(const QColor& ground, const QColor& tint, float share) {
+    const auto part = [share](float a, float b) { return a + (b - a) * share; };
+    return QColor::fromRgbF(part(ground.redF(), tint.redF()), part(ground.greenF(), tint.greenF()),
+                            part(ground.blueF(), tint.blueF()));
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QColor>
 #include <QStyledItemDelegate>
 
 /// Cells whose text is edited in a line. What the user has typed so far stays when the cell is read
@@ -19,4 +20,7 @@ public:
 
 protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
+
+    /// The ground with that share (0 to 1) of the tint in it.
+    static QColor mixed(const QColor& ground, const QColor& tint, float share);
 };

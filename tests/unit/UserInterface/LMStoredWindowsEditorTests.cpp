@@ -185,7 +185,9 @@ TEST_F(StoredWindowsEditor, RemovesByKeyAndTakesItBack) {
     EXPECT_EQ(counts(), u"1 2 4"_s) << "nothing was selected";
     const QString pictures = test.folders.screenshotsDirectoryURL();
     context.objects<LMWindow>()[1]->setScreenshotFilename(u"b.png"_s);
-    QImage(40, 30, QImage::Format_RGB32).save(pictures + u"/b.png"_s);
+    QImage picture(40, 30, QImage::Format_RGB32);
+    picture.fill(Qt::blue);
+    picture.save(pictures + u"/b.png"_s);
     const struct {
         bool isApplication;
         int row;
