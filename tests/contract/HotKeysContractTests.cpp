@@ -32,9 +32,11 @@ protected:
                              log.append((status ? u"works "_qs : u"refused "_qs) + identifier);
                          });
         ASSERT_TRUE(service.isAvailable());
+        if (backend->keyboard() == nullptr)
+            GTEST_SKIP() << "nobody can type";
     }
 
-    LMContractKeyboard& keyboard() { return backend->keyboard(); }
+    LMContractKeyboard& keyboard() { return *backend->keyboard(); }
     std::optional<Refusal> add(const QString& identifier, const LMShortcut& shortcut) {
         const auto status = desktop().hotKeys().registerHotKey(identifier, shortcut);
         return status ? std::nullopt : std::optional(status.error());

@@ -47,7 +47,8 @@ public:
     /// The process that owns the window stops answering until the end of the test.
     virtual void freeze(const LMElement& window) = 0;
     virtual void breakConnection() = 0;
-    virtual LMContractKeyboard& keyboard() = 0;
+    /// Null where nobody can type.
+    virtual LMContractKeyboard* keyboard() { return nullptr; }
 
     /// The frame that the user sees, global pixels.
     virtual QRectF visibleFrame(const LMElement& window) = 0;

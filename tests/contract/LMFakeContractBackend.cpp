@@ -4,28 +4,6 @@
 
 namespace {
 
-class LMFakeContractKeyboard final : public LMContractKeyboard {
-public:
-    explicit LMFakeContractKeyboard(LMFakeHotKeys& hotKeys) : m_hotKeys(hotKeys) {}
-    void press(const LMShortcut& shortcut) override {
-        m_hotKeys.press(shortcut);
-        m_hotKeys.release(shortcut);
-    }
-    void hold(const LMShortcut& shortcut) override { press(shortcut); }
-    void setLocks(bool, bool) override {}
-    void setLayout(const QString&) override { m_hotKeys.changeKeyboard(); }
-    void takeForAnotherProgram(const LMShortcut& shortcut) override {
-        m_hotKeys.setHeldByAnotherProgram({shortcut});
-    }
-    void giveBack() override { m_hotKeys.setHeldByAnotherProgram({}); }
-    bool isTaken(const LMShortcut& shortcut) override {
-        return !m_hotKeys.holder(shortcut).isNull();
-    }
-
-private:
-    LMFakeHotKeys& m_hotKeys;
-};
-
 /// Furnishes the fake desktop.
 class LMFakeContractBackend final : public LMContractBackend {
 public:
@@ -52,7 +30,6 @@ public:
     void raise(const LMElement& window) override { m_desktop.focus(window); }
     void freeze(const LMElement& window) override { m_desktop.window(window).neverAnswers = true; }
     void breakConnection() override { m_desktop.loseConnection(u"The test broke it."_qs); }
-    LMContractKeyboard& keyboard() override { return m_keyboard; }
     QRectF visibleFrame(const LMElement& window) override { return m_desktop.window(window).frame; }
     bool isMinimized(const LMElement& window) override {
         return m_desktop.window(window).isMinimized;
@@ -66,7 +43,6 @@ public:
 
 private:
     LMFakeDesktop m_desktop;
-    LMFakeContractKeyboard m_keyboard{m_desktop.hotKeys()};
 };
 
 LMElement LMFakeContractBackend::openWindow(const LMContractWindow& window) {

@@ -80,7 +80,7 @@ public:
         kill(pid_t(client(window).process()), SIGSTOP);
     }
     void breakConnection() override;
-    LMContractKeyboard& keyboard() override { return *m_keyboard; }
+    LMContractKeyboard* keyboard() override { return m_keyboard.get(); }
     QRectF visibleFrame(const LMElement& window) override;
     bool isMinimized(const LMElement& window) override {
         return properties(window).contains(u"state: Iconic"_qs);

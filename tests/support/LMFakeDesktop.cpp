@@ -5,7 +5,7 @@
 
 LMFakeDesktop::LMFakeDesktop()
     : m_accessibility(m_world), m_windowServer(m_world), m_screens(m_world),
-      m_applications(m_world), m_hotKeys(m_world) {
+      m_applications(m_world) {
     setScreens({QRectF(0, 0, 1440, 900)});
 }
 

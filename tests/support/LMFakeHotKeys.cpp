@@ -5,65 +5,36 @@
 
 LMHotKeyStatus LMFakeHotKeys::registerHotKey(const QString& identifier,
                                              const LMShortcut& shortcut) {
-    auto hotKey = std::ranges::find(m_hotKeys, identifier, &HotKey::identifier);
-    if (hotKey == m_hotKeys.end())
-        hotKey = m_hotKeys.insert(m_hotKeys.end(), {identifier, shortcut});
-    else if (hotKey->shortcut != shortcut)
-        *hotKey = {identifier, shortcut};
-    update(identifier);
-    hotKey = std::ranges::find(m_hotKeys, identifier, &HotKey::identifier);
-    return hotKey->refusal ? LMHotKeyStatus::failure(*hotKey->refusal) : LMHotKeyStatus::success();
+    unregisterHotKey(identifier);
+    m_hotKeys.append({identifier, shortcut});
+    return status(m_hotKeys.last());
 }
 
 void LMFakeHotKeys::unregisterHotKey(const QString& identifier) {
-    if (m_hotKeys.removeIf([&](const HotKey& hotKey) { return hotKey.identifier == identifier; }))
-        update(QString());
+    if (m_hotKeys.removeIf([&](const HotKey& hotKey) { return hotKey.first == identifier; }))
+        changeKeyboard();
 }
 
-/// Those that work first, so that they keep their shortcuts.
-void LMFakeHotKeys::update(const QString& caller) {
-    QList<HotKey> changed;
-    for (const bool works : {true, false}) {
-        for (HotKey& hotKey : m_hotKeys) {
-            const auto before = hotKey.refusal;
-            if (before.has_value() == works)
-                continue;
-            hotKey.refusal = refusal(hotKey);
-            if (hotKey.refusal != before && hotKey.identifier != caller)
-                changed.append(hotKey);
-        }
-    }
-    for (const HotKey& hotKey : std::as_const(changed))
-        Q_EMIT hotKeyStateChanged(hotKey.identifier, hotKey.refusal
-                                                         ? LMHotKeyStatus::failure(*hotKey.refusal)
-                                                         : LMHotKeyStatus::success());
+void LMFakeHotKeys::changeKeyboard() {
+    const QList<HotKey> hotKeys = m_hotKeys;
+    for (const HotKey& hotKey : hotKeys)
+        Q_EMIT hotKeyStateChanged(hotKey.first, status(hotKey));
 }
 
-std::optional<LMHotKeyRefusal> LMFakeHotKeys::refusal(const HotKey& hotKey) const {
-    if (!m_world.isConnected)
-        return LMHotKeyRefusal::NotAvailable;
-    if (m_foreign.contains(hotKey.shortcut))
-        return LMHotKeyRefusal::HeldByAnotherProgram;
-    const QString holding = holder(hotKey.shortcut);
-    if (!holding.isNull() && holding != hotKey.identifier)
-        return LMHotKeyRefusal::AlreadyInUse;
-    return std::nullopt;
+LMHotKeyStatus LMFakeHotKeys::status(const HotKey& hotKey) const {
+    if (m_foreign.contains(hotKey.second))
+        return LMHotKeyStatus::failure(LMHotKeyRefusal::HeldByAnotherProgram);
+    const auto first = std::ranges::find(m_hotKeys, hotKey.second, &HotKey::second);
+    return *first == hotKey ? LMHotKeyStatus::success()
+                            : LMHotKeyStatus::failure(LMHotKeyRefusal::AlreadyInUse);
 }
 
 QString LMFakeHotKeys::holder(const LMShortcut& shortcut) const {
-    for (const HotKey& hotKey : m_hotKeys) {
-        if (hotKey.shortcut == shortcut && !hotKey.refusal)
-            return hotKey.identifier;
-    }
-    return {};
+    const auto first = std::ranges::find(m_hotKeys, shortcut, &HotKey::second);
+    return first != m_hotKeys.end() && status(*first) ? first->first : QString();
 }
 
-void LMFakeHotKeys::press(const LMShortcut& shortcut) {
+void LMFakeHotKeys::report(void (LMHotKeys::*signal)(const QString&), const LMShortcut& shortcut) {
     if (const QString identifier = holder(shortcut); !identifier.isNull())
-        Q_EMIT hotKeyPressed(identifier);
-}
-
-void LMFakeHotKeys::release(const LMShortcut& shortcut) {
-    if (const QString identifier = holder(shortcut); !identifier.isNull())
-        Q_EMIT hotKeyReleased(identifier);
+        Q_EMIT(this->*signal)(identifier);
 }

@@ -2,14 +2,11 @@
 #pragma once
 
 #include "Platform/LMHotKeys.h"
-#include "support/LMFakeWorld.h"
 
-/// The fake desktop's hot keys. The world must outlive it.
+/// The fake desktop's hot keys: of several with one shortcut the first that was registered works.
 class LMFakeHotKeys final : public LMHotKeys {
     Q_OBJECT
 public:
-    explicit LMFakeHotKeys(LMFakeWorld& world) : m_world(world) {}
-
     bool isAvailable() const override { return true; }
     LMHotKeyStatus registerHotKey(const QString& identifier, const LMShortcut& shortcut) override;
     void unregisterHotKey(const QString& identifier) override;
@@ -20,26 +17,21 @@ public:
 
     // --- for tests ----------------------------------------------------------------------------
     /// Presses and releases; nothing happens when no hot key has the shortcut.
-    void press(const LMShortcut& shortcut);
-    void release(const LMShortcut& shortcut);
+    void press(const LMShortcut& shortcut) { report(&LMHotKeys::hotKeyPressed, shortcut); }
+    void release(const LMShortcut& shortcut) { report(&LMHotKeys::hotKeyReleased, shortcut); }
     /// The identifier of the hot key that works with it; null when none does.
     QString holder(const LMShortcut& shortcut) const;
     /// Another program takes shortcuts, all it takes at a time.
     void setHeldByAnotherProgram(const QList<LMShortcut>& shortcuts) { m_foreign = shortcuts; }
-    /// The keyboard has changed: all that are refused are tried again.
-    void changeKeyboard() { update(QString()); }
+    /// The keyboard has changed: whatever is refused is tried again.
+    void changeKeyboard();
 
 private:
-    struct HotKey {
-        QString identifier;
-        LMShortcut shortcut;
-        std::optional<LMHotKeyRefusal> refusal = LMHotKeyRefusal::NotAvailable;
-    };
+    using HotKey = std::pair<QString, LMShortcut>;
 
-    void update(const QString& caller);
-    std::optional<LMHotKeyRefusal> refusal(const HotKey& hotKey) const;
+    LMHotKeyStatus status(const HotKey& hotKey) const;
+    void report(void (LMHotKeys::*signal)(const QString&), const LMShortcut& shortcut);
 
-    LMFakeWorld& m_world;
     QList<HotKey> m_hotKeys;
     QList<LMShortcut> m_foreign;
 };
