@@ -36,12 +36,6 @@ TEST(Invocation, NamesTheMethodAndItsArguments) {
         {{"status"}, Kind::Report, "Status", {}},
         {{"plan"}, Kind::Report, "Plan", {QString()}},
         {{"plan", "--json", "gedit"}, Kind::Report, "Plan", {u"gedit"_s}},
-        {{"link-window"}, Kind::Command, "LinkActiveWindow", {}},
-        {{"menu"}, Kind::Command, "ShowMenu", {}},
-        {{"show"}, Kind::Command, "ShowStoredWindows", {}},
-        {{"preferences"}, Kind::Command, "ShowPreferences", {}},
-        {{"about"}, Kind::Command, "ShowAbout", {}},
-        {{"check-for-updates"}, Kind::Command, "CheckForUpdates", {}},
         {{"quit"}, Kind::Quit, "Quit", {}},
     };
     for (const auto& [arguments, kind, method, values] : rows) {
