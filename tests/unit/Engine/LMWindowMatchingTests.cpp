@@ -22,15 +22,14 @@ protected:
         record->setChildren(QStringList{u"AXCloseButton"_s, u"AXZoomButton"_s});
         return *record;
     }
-    LMStoredWindow* storedPattern(const QString& pattern) {
+    LMStoredWindow* storedPattern(const QString& pattern, LMWindow* snapshot = nullptr) {
         auto* record = context.insertObject<LMStoredWindow>();
         record->setTitleRegularExpression(pattern);
+        record->addMatchingWindows({snapshot});
         return record;
     }
     LMStoredWindow* storedWindow(const QString& title, const QString& pattern = {}) {
-        LMStoredWindow* record = storedPattern(pattern);
-        record->addMatchingWindows({&window(title)});
-        return record;
+        return storedPattern(pattern, &window(title));
     }
 
     LMApplication& application = *context.insertObject<LMApplication>();
@@ -124,9 +123,7 @@ TEST_F(MatchingTest, PaysForACatastrophicPatternOnce) {
     std::vector<LMWindow*> live;
     for (int index = 0; index < 300; ++index)
         live.push_back(&window(QString(2000, u'a') + u'!' + QString::number(index)));
-    std::vector<LMStoredWindow*> candidates;
-    for (int index = 0; index < 30; ++index)
-        candidates.push_back(storedPattern(u"(a+)+$"_s));
+    std::vector<LMStoredWindow*> candidates(30, storedPattern(u"(a+)+$"_s));
     candidates.push_back(storedPattern(u"!7$"_s));
     const std::clock_t start = std::clock();
     const LMRestorePlan plan = LMPlanRestore(live, candidates, environment.regexCache);
@@ -153,15 +150,14 @@ TEST_F(MatchingTest, DefaultPatternsFollowTheTable) {
         {"org.example.Editor", {u"Reminders"_s}},
     };
     for (const auto& [identifier, expected] : rows) {
-        QStringList titles, found;
+        QStringList titles;
         for (const QString& row : expected)
             titles.append(row.section(u" -> "_s, 0, 0));
         const auto patterns = LMDefaultTitlePatterns(environment.knownApplications,
                                                      QLatin1String(identifier), titles);
         for (std::size_t index = 0; index < patterns.size(); ++index)
-            found.append(titles[int(index)] + (patterns[index] ? u" -> "_s : u""_s) +
-                         patterns[index].value_or(QString()));
-        EXPECT_EQ(found, expected) << identifier;
+            titles[int(index)] += patterns[index] ? u" -> "_s + *patterns[index] : QString();
+        EXPECT_EQ(titles, expected) << identifier;
     }
 }
 

@@ -98,28 +98,26 @@ TEST_F(WorkspaceTest, StoresOneApplicationInPlaceOfItsFormerRecord) {
 TEST_F(WorkspaceTest, ArrangesTheDisplaysAsTheyStood) {
     using Rects = QList<QRectF>;
     using W = LMFakeWorld;
-    const QRectF main(0, 0, 1440, 900), twin(1440, 0, 1440, 900);
+    const QRectF main(0, 0, 1440, 900), twin(1440, 0, 1440, 900), westTwin(-1440, 0, 1440, 900);
     const QRectF west(-800, 0, 800, 600), east(1440, 0, 800, 600), other(1440, 0, 801, 600);
+    const QRectF lowWest(-800, 300, 800, 600), lowEast(1440, 300, 800, 600);
     const QString none; // It cannot become current.
-    const std::tuple<const char*, Rects, Rects, QString, bool> rows[] = {
-        {"moved", {main, west}, {main, east}, u"arrange 2 -800,0"_s, true},
-        {"current", {main, east}, {main, east}, none, true},
-        {"other count", {main, east}, {main}, none, false},
-        {"other size", {main, east}, {main, other}, none, false},
-        {"other main size", {main, east}, {{0, 0, 1441, 900}, west}, none, false},
-        {"twin of the main one",
-         {main, twin.translated(-2880, 0)},
-         {main, twin},
-         u"arrange 2 -1440,0"_s,
-         true},
-        {"twins in the order of their bounds",
-         {main, west, east},
-         {main, east.translated(0, 300), west.translated(0, 300)},
+    const std::tuple<Rects, Rects, QString, bool> rows[] = {
+        {{main, west}, {main, east}, u"arrange 2 -800,0"_s, true},
+        {{main, east}, {main, east}, none, true},
+        {{main, east}, {main}, none, false},
+        {{main, east}, {main, other}, none, false},
+        {{main, east}, {{0, 0, 1441, 900}, west}, none, false},
+        {{main, westTwin}, {main, twin}, u"arrange 2 -1440,0"_s, true},
+        // Twins in the order of their bounds.
+        {{main, west, east},
+         {main, lowEast, lowWest},
          u"arrange 2 1440,0, arrange 3 -800,0"_s,
          true},
     };
-    for (const auto& [name, wanted, attached, expected, isCurrentAfterwards] : rows) {
-        SCOPED_TRACE(name);
+    int row = 0;
+    for (const auto& [wanted, attached, expected, isCurrentAfterwards] : rows) {
+        SCOPED_TRACE(++row);
         LMWorkspace& record = workspace(wanted);
         LMDisplay* const first = record.displays().allObjects()[0];
         record.removeDisplaysObject(first); // The main one comes last: a set has no order.

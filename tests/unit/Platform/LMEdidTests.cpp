@@ -17,11 +17,7 @@ QByteArray block(const QByteArray& serial, const QList<QByteArray>& descriptors)
     blob += QByteArray(38, '\x01');
     for (const QByteArray& descriptor : descriptors)
         blob += descriptor.leftJustified(18, '\0', true);
-    blob = blob.leftJustified(127, '\0');
-    char sum = 0;
-    for (const char each : std::as_const(blob))
-        sum = char(sum + each);
-    return blob + char(-sum);
+    return blob.leftJustified(128, '\0'); // The checksum is not looked at: many are wrong.
 }
 
 const QByteArray timing = QByteArray::fromHex("023a801871382d40582c4500");
@@ -29,37 +25,32 @@ const QByteArray good =
     block("4c353130", {timing, textDescriptor('\xff', "XKV0P9C334FS\n"),
                        textDescriptor('\xfc', "DELL U2415\n"), textDescriptor('\xfd', "8LSQ\x11")});
 
-QByteArray with(QByteArray blob, qsizetype offset, char byte) {
-    blob[offset] = byte;
-    return blob;
-}
-
 TEST(LMEdid, ReadsWhatTheBlobHolds) {
     const auto edid = [](quint32 serial, const char* name) {
         return LMEdid{4268, 0x41b8, serial, QString::fromLatin1(name)};
     };
     const LMEdid whole = edid(808531276, "DELL U2415");
-    const auto text = [](char tag, const QByteArray& content) {
-        return block(tag == '\xff' ? "00000000" : "01000000", {textDescriptor(tag, content)});
+    const auto serial = [](const QByteArray& text) {
+        return block("00000000", {textDescriptor('\xff', text)});
     };
-    const QByteArray two =
-        block("01000000", {textDescriptor('\xfc', "\n"), textDescriptor('\xfc', "Second\n")});
+    const auto name = [](const QByteArray& text) {
+        return block("01000000", {textDescriptor('\xfc', "\n"), textDescriptor('\xfc', text)});
+    };
     const std::tuple<const char*, QByteArray, LMEdid> rows[] = {
         {"with an extension block", good + QByteArray(128, '\x02'), whole},
-        {"wrong checksum", with(good, 127, 0x55), whole},
         {"cut after the descriptors", good.left(126), whole},
         {"cut inside the name", good.left(100), edid(808531276, "")},
         {"cut inside the serial number", good.left(15), edid(0, "")},
         {"cut inside the model number", good.left(11), {4268, 0, 0, QString()}},
-        {"broken header", with(good, 3, 0x7f), {}},
+        {"broken header", QByteArray(good).replace(3, 1, "U"), {}},
         {"empty", {}, {}},
-        {"serial as text", text('\xff', "0012345\n"), edid(12345, "")},
-        {"serial as letters", text('\xff', "A1\n"), edid(0, "")},
-        {"serial too long", text('\xff', "9999999999999"), edid(0, "")},
-        {"name of full length", text('\xfc', "Thirteen char"), edid(1, "Thirteen char")},
-        {"name without line feed", text('\xfc', "LG Ultra"), edid(1, "LG Ultra")},
-        {"name with rubbish", text('\xfc', "\1A\x80\x42\x1b[0m\n"), edid(1, "AB[0m")},
-        {"a blank name before a real one", two, edid(1, "Second")},
+        {"serial as text", serial("0012345\n"), edid(12345, "")},
+        {"serial as letters", serial("A1\n"), edid(0, "")},
+        {"serial too long", serial("9999999999999"), edid(0, "")},
+        // Each after a blank one.
+        {"name of full length", name("Thirteen char"), edid(1, "Thirteen char")},
+        {"name without line feed", name("LG Ultra"), edid(1, "LG Ultra")},
+        {"name with rubbish", name("\1A\x80\x42\x1b[0m\n"), edid(1, "AB[0m")},
     };
     for (const auto& [what, blob, expected] : rows)
         EXPECT_EQ(LMEdidFromData(blob), expected) << what;

@@ -110,7 +110,6 @@ TEST(Appearance, IsReadFromThemeAndFontNames) {
         {{}, u"Sans 999"_qs, {}},
         {u"HighContrastBlack Dark"_qs, {}, {true, {}, 0}},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(LMAppearanceFromTheme(row.theme, row.font), row.expected)
-            << row.theme.toStdString();
+    for (const auto& [theme, font, expected] : rows)
+        EXPECT_EQ(LMAppearanceFromTheme(theme, font), expected) << theme.toStdString();
 }
