@@ -39,7 +39,7 @@ public:
             m_window.windowHandle()->removeEventFilter(this);
             deleteLater();
             if (!m_window.isActiveWindow())
-                m_desktop.applications().activate(QCoreApplication::applicationPid());
+                m_desktop.applications().activateOwnWindow(m_window.winId());
         }
         return false;
     }
@@ -58,9 +58,9 @@ void LMBringToFront(QWidget& window, LMDesktop& desktop) {
 
 void LMPresentWindow(QWidget& window, LMDesktop& desktop) {
     const bool isNew = window.windowHandle() == nullptr;
-    if (window.isVisible() && window.isActiveWindow() && !window.isMinimized())
-        return;
-    window.hide(); // One that is mapped anew comes to the virtual desktop in use.
+    // A window that is mapped anew comes to the virtual desktop in use. Whether it is there already
+    // cannot be told: the news of a change may still be on its way.
+    window.hide();
     if (isNew || QGuiApplication::screenAt(window.geometry().center()) == nullptr)
         LMCentreWindow(window);
     window.setWindowState(window.windowState() & ~Qt::WindowMinimized);

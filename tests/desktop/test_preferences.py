@@ -29,10 +29,10 @@ class Preferences(unittest.TestCase):
         self.rook = Resident(self.session, headless=False, settings=SETTINGS)
         self.entries = self.session.config / "autostart"
 
-    def open(self) -> int:
-        self.rook.do("preferences")
-        return wait_until(lambda: next((int(window) for window in self.search("Preferences")
-                                        if self.probe.active_window() == int(window)), None), "the preferences", 15.0)
+    def open(self, command: str = "preferences", title: str = "Preferences") -> int:
+        self.rook.do(command)
+        return wait_until(lambda: next((int(window) for window in self.search(title)
+                                        if self.probe.active_window() == int(window)), None), f"{title} in front", 15.0)
 
     def search(self, title: str) -> list[str]:
         return self.probe.tool("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split()
@@ -73,6 +73,16 @@ class Preferences(unittest.TestCase):
         wait_until(lambda: self.picture(window) == off, "the box to be unticked by another program")
         self.press("alt+l")
         wait_until(lambda: "Hidden" not in entry.read_text(), "the login item to be back")
+
+    def test_the_window_that_is_asked_for_comes_to_the_front(self) -> None:
+        opened = open_windows(self.desktop, WINDOWS[:1])
+        for command, title in (("preferences", "Preferences"), ("show", "Stored Windows"), ("preferences", "Preferences")):
+            self.open(command, title)
+        self.probe.activate(opened[0].identifier)
+        self.open("show", "Stored Windows")
+        self.probe.switch_desktop(2)
+        self.open("show", "Stored Windows")
+        self.assertEqual(self.probe.current_desktop(), 2)
 
     def test_the_menu_stays_reachable(self) -> None:
         wait_until(self.has_icon, "the icon", 10.0)

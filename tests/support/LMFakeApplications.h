@@ -12,6 +12,7 @@ public:
 
     QList<LMRunningApplication> runningApplications() override;
     bool activate(qint64 processIdentifier) override;
+    bool activateOwnWindow(quint64) override { return true; }
     bool hide(qint64 processIdentifier) override;
     bool unhide(qint64 processIdentifier) override;
     QImage iconForApplication(const QString& bundleIdentifier, int size) override;

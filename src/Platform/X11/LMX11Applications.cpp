@@ -142,14 +142,25 @@ bool LMX11Applications::activate(qint64 processIdentifier) {
     const Windows shown = windowsInSight(application->windows);
     if (shown.isEmpty())
         return false;
-    const xcb_window_t window = mostRecentlyUsed(shown);
+    return requestActivation(mostRecentlyUsed(shown), isActive);
+}
+
+bool LMX11Applications::activateOwnWindow(quint64 nativeIdentifier) {
+    const auto window = static_cast<xcb_window_t>(nativeIdentifier);
+    const auto isActive = [this, window] { return m_index.activeWindow() == window; };
+    m_index.refresh();
+    return isActive() || requestActivation(window, isActive);
+}
+
+bool LMX11Applications::requestActivation(xcb_window_t window,
+                                          const std::function<bool()>& isDone) {
     requestActivation(window);
-    if (waitUntil(isActive, longestWait / 2))
+    if (waitUntil(isDone, longestWait / 2))
         return true;
     // Managers refuse requests older than what they carry out at the moment (mutter). When they
     // are busy, they date a request without a time later than ours that came after it.
     requestActivation(window);
-    return waitUntil(isActive, longestWait / 2);
+    return waitUntil(isDone, longestWait / 2);
 }
 
 bool LMX11Applications::hide(qint64 processIdentifier) {

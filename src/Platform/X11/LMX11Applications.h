@@ -29,6 +29,7 @@ public:
 
     /// Looks only at windows that are in sight: on the current virtual desktop, not minimised.
     bool activate(qint64 processIdentifier) override;
+    bool activateOwnWindow(quint64 nativeIdentifier) override;
     bool hide(qint64 processIdentifier) override;
     bool unhide(qint64 processIdentifier) override;
     QImage iconForApplication(const QString& bundleIdentifier, int size) override;
@@ -45,6 +46,7 @@ private:
     xcb_window_t mostRecentlyUsed(const Windows& windows) const;
 
     void requestActivation(xcb_window_t window);
+    bool requestActivation(xcb_window_t window, const std::function<bool()>& isDone);
     void showWithoutFocus(const Windows& windows);
     bool waitUntil(const std::function<bool()>& isDone, std::chrono::milliseconds limit);
     QImage installedIcon(const QString& bundleIdentifier, int size);
