@@ -37,8 +37,8 @@ public:
     /// whatever is active now. An application none of whose windows is in sight is left alone
     /// (false): no window pops up, and the user stays on the virtual desktop in view.
     virtual bool activate(qint64 processIdentifier) = 0;
-    /// The same for a window of our own, by the display system's name for it (QWindow::winId). False
-    /// when it did not get the focus.
+    /// The same for a window of our own, by the display system's name for it (QWindow::winId).
+    /// False when it did not get the focus.
     virtual bool activateOwnWindow(quint64 nativeIdentifier) = 0;
 
     /// Minimises all its windows, remembering which were minimised already.
