@@ -38,8 +38,9 @@ void LMReplacement::look() {
     if (!m_isWhole)
         return;
     const LMPermission permission = m_environment.desktop.checkPermission();
-    m_isWhole = permission.isTrusted;
-    m_missing = permission.missing.join(QLatin1Char(' '));
+    m_isWhole = permission.isTrusted && m_workspace.isCurrentWorkspace();
+    m_missing = permission.isTrusted ? LMLocalized("The displays have changed.")
+                                     : permission.missing.join(QLatin1Char(' '));
 }
 
 bool LMReplacement::forgetsApplications() const {

@@ -106,6 +106,10 @@ TEST_F(ControllerTest, ADesktopThatGoesAwayOnTheWayTakesNothingFromTheStore) {
         EXPECT_EQ(context.objects<LMStoredWindow>(), stored) << returns;
         desktop.world().permission = {true, {}};
     }
+    userInterface.duringProgress = [&] { desktop.setScreens({{0, 0, 800, 600}}); };
+    EXPECT_TRUE(perform("SAll", Overwrite).refusal.contains(u"displays have changed"));
+    EXPECT_EQ(context.objects<LMStoredWindow>(), stored);
+    desktop.setScreens({{0, 0, 1440, 900}});
     userInterface.duringProgress = [&] {
         desktop.world().permission = {false, {u"No window manager."_s}};
     };
