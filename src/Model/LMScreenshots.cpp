@@ -23,10 +23,12 @@ QImage defaultWindow() {
     return QImage(QStringLiteral(":/rook/DefaultWindow.png"));
 }
 
-/// Writes the whole file or none; the reason of a failure is logged.
+/// Writes the whole file or none, for the owner's eyes only; the reason of a failure is logged.
 bool writePicture(const QImage& image, const QString& path, const LMLogger& logger) {
+    constexpr auto OwnerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && image.save(&file, "PNG") && file.commit())
+    if (file.open(QIODevice::WriteOnly) && file.setPermissions(OwnerOnly) &&
+        image.save(&file, "PNG") && file.commit())
         return true;
     logger.error(QStringLiteral("Screenshot not written to %@: %@"), {path, file.errorString()});
     return false;

@@ -17,6 +17,10 @@
 #include <SQLiteCpp/Statement.h>
 #include <SQLiteCpp/Transaction.h>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <utility>
 
 namespace {
@@ -32,7 +36,17 @@ QString errorText(const QString& path, const SQLite::Exception& exception) {
         .arg(exception.getExtendedErrorCode());
 }
 
+/// Titles tell what their owner works on, so nobody else may read them, whatever the folder allows.
+/// SQLite gives the journal the permissions of the database.
+void createForOwnerOnly(const QString& path) {
+    const int descriptor = ::open(QFile::encodeName(path).constData(),
+                                  O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (descriptor >= 0)
+        ::close(descriptor);
+}
+
 SQLite::Database openDatabase(const QString& path) {
+    createForOwnerOnly(path);
     SQLite::Database database(QFile::encodeName(path).toStdString(),
                               SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE,
                               busyTimeoutMilliseconds);
