@@ -1,23 +1,31 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLine/LMInvocation.h"
 
+#include "CommandLine/LMCommandLineDescription.h"
+
 #include <CLI/CLI.hpp>
 
 #include <QCoreApplication>
+
+#include <utility>
 
 namespace {
 
 using Kind = LMInvocation::Kind;
 
-constexpr const char* Footer =
-    "Exit codes: 0 done, 1 the command could not run, 2 usage error, 3 no resident process.\n"
-    "Without a command Rook starts its resident process in the foreground.";
+constexpr std::pair<int, const char*> ExitCodes[] = {
+    {LMExitCode::Done, "done"},
+    {LMExitCode::Refused, "the command could not run"},
+    {LMExitCode::Usage, "usage error"},
+    {LMExitCode::NotRunning, "no resident process"},
+};
 
 /// The values CLI11 fills in while it parses.
 struct Options {
     bool isHeadless = false;
     bool isVerbose = false;
     bool overwrite = false;
+    bool asks = false;
     bool json = false;
     std::string application;
 };
@@ -30,14 +38,30 @@ void addCommand(CLI::App& app, LMInvocation& invocation, const char* name, const
     });
 }
 
-void addStoreCommand(CLI::App& app, LMInvocation& invocation, Options& options, const char* name,
-                     const char* help, const char* method) {
+CLI::App* addStoreCommand(CLI::App& app, LMInvocation& invocation, Options& options,
+                          const char* name, const char* help, const char* method) {
     CLI::App* command = app.add_subcommand(name, help);
     command->add_flag("--overwrite", options.overwrite, "Replace what is stored already");
     command->callback([&invocation, &options, method] {
         invocation.kind = Kind::Command;
         invocation.method = QLatin1String(method);
         invocation.arguments = {options.overwrite};
+    });
+    return command;
+}
+
+/// What a launcher starts: whoever clicks there sees no terminal.
+void addStoreAll(CLI::App& app, LMInvocation& invocation, Options& options) {
+    CLI::App* command =
+        addStoreCommand(app, invocation, options, "store-all", "Remember every window", "StoreAll");
+    command->add_flag("--ask", options.asks, "Ask on the screen whether to replace what is stored")
+        ->excludes("--overwrite");
+    command->callback([&invocation, &options] {
+        invocation.kind = Kind::Command;
+        invocation.method =
+            options.asks ? QStringLiteral("AskToStoreAll") : QStringLiteral("StoreAll");
+        if (!options.asks)
+            invocation.arguments = {options.overwrite};
     });
 }
 
@@ -69,7 +93,7 @@ void addCommands(CLI::App& app, LMInvocation& invocation, Options& options) {
         if (isNamed)
             invocation.arguments = {QString::fromStdString(options.application)};
     });
-    addStoreCommand(app, invocation, options, "store-all", "Remember every window", "StoreAll");
+    addStoreAll(app, invocation, options);
     addStoreCommand(app, invocation, options, "store-app",
                     "Remember the windows of the active application", "StoreActiveApplication");
     addStoreCommand(app, invocation, options, "store-window", "Remember the active window",
@@ -104,15 +128,20 @@ void addReports(CLI::App& app, LMInvocation& invocation, Options& options) {
     });
 }
 
-} // namespace
+std::string footer() {
+    std::string text = "Exit codes:";
+    for (const auto& [code, meaning] : ExitCodes)
+        text += (code == 0 ? " " : ", ") + std::to_string(code) + ' ' + meaning;
+    return text + ".\nWithout a command Rook starts its resident process in the foreground.";
+}
 
-LMInvocation LMParseCommandLine(int argc, const char* const* argv) {
-    LMInvocation invocation;
-    Options options;
-    CLI::App app{"Rook remembers where your windows stand, per set of displays, and puts them "
-                 "back.",
-                 "rook"};
-    app.footer(Footer);
+/// Fills the application with everything it understands. Parsing writes to invocation and options,
+/// which outlive it.
+void define(CLI::App& app, LMInvocation& invocation, Options& options) {
+    app.description("Rook remembers where your windows stand, per set of displays, and puts them "
+                    "back.");
+    app.name("rook");
+    app.footer(footer());
     app.set_version_flag("--version",
                          "rook " + QCoreApplication::applicationVersion().toStdString());
     app.require_subcommand(0, 1);
@@ -120,6 +149,50 @@ LMInvocation LMParseCommandLine(int argc, const char* const* argv) {
     app.add_flag("--verbose", options.isVerbose, "Log debug messages too");
     addCommands(app, invocation, options);
     addReports(app, invocation, options);
+}
+
+LMCommandDescription describe(CLI::App& app) {
+    LMCommandDescription result;
+    result.name = QString::fromStdString(app.get_name());
+    result.help = QString::fromStdString(app.get_description());
+    for (const CLI::Option* option : app.get_options()) {
+        LMOptionDescription description;
+        for (const std::string& name : option->get_snames())
+            description.names.append(QLatin1Char('-') + QString::fromStdString(name));
+        for (const std::string& name : option->get_lnames())
+            description.names.append(QLatin1String("--") + QString::fromStdString(name));
+        description.help = QString::fromStdString(option->get_description());
+        if (description.names.isEmpty()) {
+            result.argument = QString::fromStdString(option->get_name(true));
+            result.argumentHelp = description.help;
+        } else {
+            result.options.append(description);
+        }
+    }
+    return result;
+}
+
+} // namespace
+
+LMCommandLineDescription LMDescribeCommandLine() {
+    LMInvocation invocation;
+    Options options;
+    CLI::App app;
+    define(app, invocation, options);
+    LMCommandLineDescription result;
+    result.program = describe(app);
+    for (CLI::App* command : app.get_subcommands({}))
+        result.commands.append(describe(*command));
+    for (const auto& [code, meaning] : ExitCodes)
+        result.exitCodes.append({code, QLatin1String(meaning)});
+    return result;
+}
+
+LMInvocation LMParseCommandLine(int argc, const char* const* argv) {
+    LMInvocation invocation;
+    Options options;
+    CLI::App app;
+    define(app, invocation, options);
 
     try {
         app.parse(argc, argv);

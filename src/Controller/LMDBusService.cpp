@@ -109,6 +109,10 @@ bool LMDBusService::StoreAll(bool overwrite) {
     return perform(LMFourCharCode("SAll"), {{QStringLiteral("Overwrite"), overwrite}});
 }
 
+bool LMDBusService::AskToStoreAll() {
+    return perform(LMMenuCommand::StoreAllWindows);
+}
+
 bool LMDBusService::ShowMenu() {
     return answer(m_statusItem.displayMenuAtCursor());
 }

@@ -46,6 +46,7 @@ public Q_SLOTS:
     bool StoreActiveApplication(bool overwrite);
     bool StoreActiveWindow(bool overwrite);
     bool StoreAll(bool overwrite);
+    bool AskToStoreAll();
     bool ShowMenu();
     bool LinkActiveWindow();
     bool ShowStoredWindows();

@@ -71,7 +71,7 @@ QString LMWriteFileAtomically(const QString& path, const QByteArray& data) {
 
 QByteArray LMLauncherEntry(const QString& executable) {
     QByteArray entry = resource(QStringLiteral("org.rook.Rook.desktop"));
-    return entry.replace("\nExec=rook\n", "\nExec=" + LMExecOfArgument(executable).toUtf8() + '\n');
+    return entry.replace("\nExec=rook", "\nExec=" + LMExecOfArgument(executable).toUtf8());
 }
 
 QString LMWriteLauncher(const QString& executable) {
