@@ -11,6 +11,10 @@ target_compile_definitions(RookOptions INTERFACE
     QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS QT_NO_FOREACH QT_STRICT_ITERATORS
     QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 
+# The same sources give the same bytes, wherever they are built; what is shipped is hardened.
+add_compile_options("$<$<CONFIG:Release>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=>")
+add_link_options("$<$<CONFIG:Release>:LINKER:-z,relro,-z,now>")
+
 if(ROOK_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined
         -fno-omit-frame-pointer)

@@ -1,0 +1,18 @@
+# What CHANGELOG.md says about releases, for the pages that show it: ROOK_RELEASE_DATE, the date of
+# this version, and ROOK_METAINFO_RELEASES, all of them in the notation of AppStream.
+set(changelog "${PROJECT_SOURCE_DIR}/CHANGELOG.md")
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${changelog}")
+file(STRINGS "${changelog}" headings REGEX "^## [0-9]")
+foreach(heading IN LISTS headings)
+    if(NOT heading MATCHES "^## ([0-9]+\\.[0-9]+\\.[0-9]+) - ([0-9]+-[0-9]+-[0-9]+)$")
+        message(FATAL_ERROR "CHANGELOG.md: \"${heading}\" is not \"## VERSION - DATE\"")
+    endif()
+    list(APPEND releases "    <release version=\"${CMAKE_MATCH_1}\" date=\"${CMAKE_MATCH_2}\"/>")
+    if(CMAKE_MATCH_1 STREQUAL PROJECT_VERSION)
+        set(ROOK_RELEASE_DATE "${CMAKE_MATCH_2}")
+    endif()
+endforeach()
+if(NOT ROOK_RELEASE_DATE)
+    message(FATAL_ERROR "CHANGELOG.md says nothing about version ${PROJECT_VERSION}")
+endif()
+list(JOIN releases "\n" ROOK_METAINFO_RELEASES)
