@@ -54,7 +54,6 @@ LMTableView::LMTableView(LMRecordTableModel* records, const QString& name, QWidg
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + RowPadding);
     auto* dropStyle = new RowDropStyle;
     dropStyle->setParent(this);
-    viewport()->setStyle(dropStyle);
     setStyle(dropStyle);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &LMTableView::selectedRecordChanged);
