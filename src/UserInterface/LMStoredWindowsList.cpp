@@ -41,7 +41,7 @@ void LMStoredWindowsList::windowDidLoad() {
             &LMStoredWindowsList::editWorkspace);
     connect(m_window.get(), &LMStoredWindowsListWindow::makeActiveRequested, this,
             &LMStoredWindowsList::makeActive);
-    connect(m_window->tableView().selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+    connect(m_window->tableView().selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &LMStoredWindowsList::selectionDidChange);
     connect(&m_workspaces, &QAbstractItemModel::dataChanged, this,
             &LMStoredWindowsList::selectionDidChange);
@@ -57,9 +57,8 @@ void LMStoredWindowsList::showWindow() {
         windowDidLoad();
     LMPresentWindow(*m_window, m_environment.desktop);
     reloadTableViews();
-    QTreeView& view = m_window->tableView();
-    if (!view.currentIndex().isValid())
-        view.setCurrentIndex(m_workspacesController.index(0, 0));
+    if (selectedRow() < 0)
+        m_window->tableView().setCurrentIndex(m_workspacesController.index(0, 0));
 }
 
 void LMStoredWindowsList::reloadTableViews() {
@@ -74,7 +73,9 @@ void LMStoredWindowsList::reloadTableViews() {
 int LMStoredWindowsList::selectedRow() const {
     if (!m_window)
         return -1;
-    return m_workspacesController.mapToSource(m_window->tableView().currentIndex()).row();
+    // Not the current row: that stays when the selection is taken away with Ctrl.
+    const QModelIndexList rows = m_window->tableView().selectionModel()->selectedRows();
+    return rows.isEmpty() ? -1 : m_workspacesController.mapToSource(rows.first()).row();
 }
 
 LMObjectID LMStoredWindowsList::selectedObjectID() const {
