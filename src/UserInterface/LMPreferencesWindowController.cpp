@@ -64,6 +64,8 @@ void LMPreferencesWindowController::showWindow() {
         makeWindow();
     showPane(m_tabs->currentIndex());
     fitWindow();
+    if (!m_window->isVisible())
+        LMCentreWindow(*m_window);
     LMPresentWindow(*m_window, m_desktop);
 }
 

@@ -5,6 +5,7 @@
 #include "UserInterface/LMHotKeysPreferencesViewController.h"
 #include "UserInterface/LMPreferencesWindowController.h"
 #include "UserInterface/LMShortcutRecorder.h"
+#include "UserInterface/LMWindowPlacement.h"
 
 #include <QAccessible>
 #include <QCheckBox>
@@ -275,9 +276,12 @@ TEST_F(Preferences, ARecordedHotKeyWorksAtOnceAndConflictsAreNamed) {
     EXPECT_EQ(message(second), u"Another program is using Ctrl+S."_s);
     // Recording ends with the window, and a window that is gone holds no hot key back.
     recorder(first).startRecording();
-    preferences->window()->close();
+    QWidget& window = *preferences->window();
+    window.move(1, 2);
+    window.close();
     EXPECT_FALSE(recorder(first).isRecording());
     preferences->showWindow();
+    EXPECT_EQ(window.geometry(), LMCentredFrame(window.size())) << "in the middle again";
     recorder(first).startRecording();
     preferences.reset();
     defaults.setObject(second, onR.data());
