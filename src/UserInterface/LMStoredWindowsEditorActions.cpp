@@ -58,7 +58,9 @@ void LMStoredWindowsEditor::askForScript() {
     auto* panel = new QFileDialog(m_window.get(), LMLocalized("Import Script"), QDir::homePath());
     panel->setAttribute(Qt::WA_DeleteOnClose);
     panel->setFileMode(QFileDialog::ExistingFile);
-    connect(panel, &QFileDialog::fileSelected, this, &LMStoredWindowsEditor::importScript);
+    // The panel tells before it closes, and an alert comes in its place.
+    connect(panel, &QFileDialog::fileSelected, this, &LMStoredWindowsEditor::importScript,
+            Qt::QueuedConnection);
     panel->open();
 }
 

@@ -49,8 +49,11 @@ QString LMTextFromFile(const QString& path) {
 
 LMImportedScript LMImportScript(const QString& path) {
     LMImportedScript imported;
-    const QFileInfo file(path);
-    if (file.suffix().compare(QLatin1String("scpt"), Qt::CaseInsensitive) == 0) {
+    const QString name = QFileInfo(path).fileName();
+    const qsizetype dot = name.lastIndexOf(u'.');
+    const bool hasExtension = dot > 0; // A dot in front hides a file.
+    const QString extension = hasExtension ? name.mid(dot + 1) : QString();
+    if (extension.compare(QLatin1String("scpt"), Qt::CaseInsensitive) == 0) {
         imported.failure.message = LMLocalized("Could not import AppleScript");
         imported.failure.informativeText = LMLocalized(
             "Please ensure that the file you are importing has not been saved as “Run Only”.");
@@ -63,7 +66,7 @@ LMImportedScript LMImportScript(const QString& path) {
             LMLocalized("Please ensure that the file you are importing is plain text.");
         return imported;
     }
-    imported.label = file.completeBaseName();
+    imported.label = hasExtension ? name.left(dot) : name;
     imported.runAs = QStringLiteral("Shell Script");
     return imported;
 }

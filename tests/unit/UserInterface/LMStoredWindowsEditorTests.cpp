@@ -314,6 +314,7 @@ TEST_F(StoredWindowsEditor, ImportsTextAndSaysWhatItCannotImport) {
         QString label, script, alert;
     } rows[] = {
         {u"Mount.all.sh"_s, "echo \xc3\xa4\n", u"Mount.all"_s, u"echo ä\n"_s, {}},
+        {u".scpt"_s, "true", u".scpt"_s, u"true"_s, {}},
         {u"utf16"_s,
          QByteArray("\xff\xfe"
                     "e\0\xe4\0",
