@@ -30,7 +30,9 @@ public:
     LMWorkspace* workspace() const;
 
     /// 16 × 16 points: that of a script file, or of a program. Never null.
-    QImage icon() const;
+    QImage icon() const { return iconForScripts(m_runAs); }
+    /// The same for all actions of a kind.
+    static QImage iconForScripts(const QString& runAs);
 
     /// Runs the script and returns when its output has ended. Failures are logged.
     void run();

@@ -12,9 +12,9 @@ constexpr int IconScale = 3; // Sharp up to three device pixels per point.
 } // namespace
 
 // The names are those of the shared MIME-info database's generic icons and of its own type.
-QImage LMAction::icon() const {
+QImage LMAction::iconForScripts(const QString& runAs) {
     constexpr int Size = IconPoints * IconScale;
-    const bool isAppleScript = m_runAs == QLatin1String("AppleScript");
+    const bool isAppleScript = runAs == QLatin1String("AppleScript");
     LMIconTheme theme(LMDataDirectories(), LMIconThemeNameFromSettings(LMConfigDirectories()));
     const QString name = isAppleScript ? QStringLiteral("text-x-script")
                                        : QStringLiteral("application-x-executable");

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // How the editor's window is put together.
+#include "Model/LMAction.h"
 #include "Platform/LMEnvironment.h"
 #include "UserInterface/Editing/LMActionsModel.h"
 #include "UserInterface/Editing/LMApplicationsModel.h"
@@ -149,6 +150,14 @@ void LMStoredWindowsEditorWindow::connectTable(LMTableView* table) {
                 &LMStoredWindowsEditorWindow::editingEnded);
 }
 
+QIcon LMStoredWindowsEditorWindow::appleScriptActionIcon() {
+    return QPixmap::fromImage(LMAction::iconForScripts(QStringLiteral("AppleScript")));
+}
+
+QIcon LMStoredWindowsEditorWindow::shellScriptActionIcon() {
+    return QPixmap::fromImage(LMAction::iconForScripts(QStringLiteral("Shell Script")));
+}
+
 // --- buttons ------------------------------------------------------------------------------------
 
 QPushButton* LMStoredWindowsEditorWindow::makeRemoveButton(const char* text, const char* name,
@@ -181,14 +190,14 @@ void LMStoredWindowsEditorWindow::makeButtons(QUndoStack& undoStack) {
     m_addActionButton = new QPushButton(LMLocalized("&Add"), this);
     m_addActionButton->setAccessibleName(LMLocalized("Add Action"));
     auto* menu = new QMenu(m_addActionButton);
-    const auto add = [this, menu](const QString& text, int tag) {
-        connect(menu->addAction(text), &QAction::triggered, this,
+    const auto add = [this, menu](const QIcon& icon, const QString& text, int tag) {
+        connect(menu->addAction(icon, text), &QAction::triggered, this,
                 [this, tag] { Q_EMIT addActionRequested(tag); });
     };
-    add(LMLocalized("&Shell Script"), 2);
-    add(LMLocalized("&AppleScript"), 1);
+    add(shellScriptActionIcon(), LMLocalized("&Shell Script"), 2);
+    add(appleScriptActionIcon(), LMLocalized("&AppleScript"), 1);
     menu->addSeparator();
-    add(LMLocalized("&Import Script…"), 3);
+    add({}, LMLocalized("&Import Script…"), 3);
     m_addActionButton->setMenu(menu);
 
     m_runButton = new QPushButton(LMLocalized("Ru&n"), this);

@@ -3,6 +3,7 @@
 
 #include "Model/Store/LMObjectID.h"
 
+#include <QIcon>
 #include <QWidget>
 
 class LMActionsModel;
@@ -35,6 +36,10 @@ public:
     void reveal(const LMObjectID& record);
     /// Lets the user type the label of an action.
     void editLabelOfAction(const LMObjectID& action);
+
+    /// 16 × 16 points.
+    static QIcon appleScriptActionIcon();
+    static QIcon shellScriptActionIcon();
 
     LMTableView* applicationsTableView() const { return m_applicationsTableView; }
     LMTableView* windowsTableView() const { return m_windowsTableView; }
