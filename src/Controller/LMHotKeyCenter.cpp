@@ -92,7 +92,7 @@ LMHotKeyCenter::Suspension::~Suspension() {
 /// Those that worked come back first, so that none loses its shortcut to another.
 void LMHotKeyCenter::setSuspended(bool isSuspended) {
     std::vector<std::shared_ptr<HotKey>> hotKeys = m_entries;
-    std::ranges::stable_partition(hotKeys, [](const auto& hotKey) {
+    std::stable_partition(hotKeys.begin(), hotKeys.end(), [](const auto& hotKey) {
         return hotKey->report.state == LMHotKeyReport::State::Registered;
     });
     for (const auto& hotKey : hotKeys) {
