@@ -11,6 +11,7 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent.parent.parent / "tools"))
 from rig.desktop import Desktop  # noqa: E402
+from rig.displays import keyboard_is_free  # noqa: E402
 from rig.probe import Frame  # noqa: E402
 from rig.processes import wait_until  # noqa: E402
 from rig.resident import Resident  # noqa: E402
@@ -40,6 +41,13 @@ class Editor(unittest.TestCase):
 
     def type(self, text: str) -> None:
         self.probe.tool("xdotool", "type", text)
+
+    def add_shell_script(self) -> None:
+        """The menu has the keyboard for itself until it is closed."""
+        self.press("alt+a")
+        wait_until(lambda: not keyboard_is_free(self.desktop.server.display), "the menu")
+        self.press("s")
+        wait_until(lambda: keyboard_is_free(self.desktop.server.display), "the menu to close")
 
     def wait_for_window(self, title: str) -> int:
         """The window of that name once it has the focus."""
@@ -104,7 +112,7 @@ class Editor(unittest.TestCase):
 
     def test_actions(self) -> None:
         ran = self.desktop.session.home / "ran"
-        self.press("alt+a", "s")
+        self.add_shell_script()
         self.type("Mount")
         self.press("Return")
         wait_until(lambda: self.actions() == [("Mount", "#!/bin/bash\n\n")], "the action")

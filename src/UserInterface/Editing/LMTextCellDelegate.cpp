@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "UserInterface/Editing/LMTextCellDelegate.h"
 
+#include <QFocusEvent>
 #include <QLineEdit>
 #include <QStyle>
 
@@ -31,6 +32,19 @@ void LMTextCellDelegate::setModelData(QWidget* editor, QAbstractItemModel* model
     const auto* line = static_cast<QLineEdit*>(editor);
     if (line->isModified())
         model->setData(index, line->text(), Qt::EditRole);
+}
+
+// A menu that closes takes the focus from the whole window for a moment, long after its entry has
+// opened an editor.
+bool LMTextCellDelegate::eventFilter(QObject* editor, QEvent* event) {
+    if (event->type() == QEvent::FocusOut) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason) {
+            Q_EMIT commitData(static_cast<QWidget*>(editor));
+            return false;
+        }
+    }
+    return QStyledItemDelegate::eventFilter(editor, event);
 }
 
 void LMTextCellDelegate::initStyleOption(QStyleOptionViewItem* option,

@@ -5,8 +5,9 @@
 #include <QStyledItemDelegate>
 
 /// Cells whose text is edited in a line. What the user has typed so far stays when the cell is read
-/// again under the open editor, and a text that was not touched is not written back. A text is read
-/// in its own direction, whichever that of the window is.
+/// again under the open editor, and so does an editor whose window is not the active one for a
+/// while; a text that was not touched is not written back. A text is read in its own direction,
+/// whichever that of the window is.
 class LMTextCellDelegate : public QStyledItemDelegate {
     Q_OBJECT
 public:
@@ -17,6 +18,7 @@ public:
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
     void setModelData(QWidget* editor, QAbstractItemModel* model,
                       const QModelIndex& index) const override;
+    bool eventFilter(QObject* editor, QEvent* event) override;
 
 protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
