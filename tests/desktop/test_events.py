@@ -20,8 +20,13 @@ from rig.scenario import Opened, frames, open_windows, scatter  # noqa: E402
 
 WINDOWS = (("xterm", "shell", Frame(2050, 120, 610, 405)), ("featherpad", "readme.txt", Frame(611, 93, 702, 481)),
            ("mousepad", "letter.txt", Frame(2200, 300, 561, 433)))
+DOCUMENTS = (("xterm", "shell"), ("featherpad", "readme.txt"), ("mousepad", "letter.txt"), ("xterm", "log"))
 CHANGE = "The displays have changed"
 REFUSED_WITHOUT_WINDOWS = ("menu", "link-window", "show", "preferences", "about", "check-for-updates")
+
+
+def as_frame(report: dict[str, float]) -> Frame:
+    return Frame(*(int(report[key]) for key in ("x", "y", "width", "height")))
 
 
 class Events(unittest.TestCase):
@@ -165,6 +170,54 @@ class Events(unittest.TestCase):
         self.assertEqual(self.rook.run("status").returncode, 0)
         process.popen.send_signal(signal.SIGTERM)
         self.assertEqual(process.popen.wait(20), 0)
+
+
+class Displays(unittest.TestCase):
+    """Monitors left of the main one, upright, three, or lying about themselves."""
+
+    def from_main(self, frame: Frame) -> Frame:
+        x, y = self.probe.main_origin()
+        return frame._replace(x=frame.x - x, y=frame.y - y)
+
+    def open_on_all_monitors(self) -> list[Opened]:
+        """A window in the middle of each monitor, and one across the edge of the main one."""
+        monitors = [self.from_main(monitor.frame) for monitor in self.probe.monitors()]
+        spots = [Frame(x + 70 + 11 * x % 50, y + 90, width // 2 + 13, height // 2 - 17)
+                 for x, y, width, height in monitors]
+        spots.append(Frame(monitors[-1].x + (monitors[-1].width - 250) * (monitors[-1].x < 0) - 150, 200, 500, 400))
+        return open_windows(self.desktop, [(*document, spot) for document, spot in zip(DOCUMENTS, spots)])
+
+    def check_reports(self, opened: list[Opened]) -> None:
+        displays = self.rook.report("status")["displays"]
+        self.assertEqual({(display["connector"], as_frame(display["bounds"]), display["main"]) for display in displays},
+                         {(monitor.output, self.from_main(monitor.frame), monitor.primary)
+                          for monitor in self.probe.monitors()})
+        seen = {window["title"]: as_frame(window["frame"])
+                for application in self.rook.report("windows")["applications"] for window in application["windows"]}
+        readings = [self.probe.settled(window.identifier) for window in opened]
+        self.assertEqual(seen, {reading.title: self.from_main(reading.frame) for reading in readings})
+
+    def test_layouts(self) -> None:
+        for layout in ("portrait", "three", "left"):
+            with self.subTest(layout), Desktop(os.environ.get("ROOK_TEST_MANAGER", "openbox"), layout) as self.desktop:
+                self.probe, self.rook = self.desktop.probe, Resident(self.desktop.session)
+                opened = self.open_on_all_monitors()
+                self.rook.do("store-all")
+                stored = frames(self.desktop, opened)
+                self.check_reports(opened)
+                scatter(self.desktop, opened, 1)
+                self.check_reports(opened)
+                self.rook.do("restore-all")
+                self.assertEqual(frames(self.desktop, opened), stored)
+                products = [display["product"] for display in self.rook.report("status")["displays"][:2]]
+                self.assertEqual(products, ["Rig Monitor 0", "Rig Monitor 1"])
+                if layout == "left":
+                    for blob in (b"", b"\0" * 7, os.urandom(128), os.urandom(1024)):
+                        self.desktop.server.set_edid("DUMMY1", blob)
+                        self.rook.quit()
+                        self.rook.start()
+                        self.check_reports(opened)
+                        self.rook.do("store-all", "--overwrite")
 
 
 if __name__ == "__main__":

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/PackageKit/LMPackageKitUpdater.h"
 
+#include "support/LMDesktopTools.h"
 #include "Utilities/LMLogger.h"
 
 #include <QCoreApplication>
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
-#include <QElapsedTimer>
 
 #include <gtest/gtest.h>
 
@@ -60,9 +60,7 @@ TEST(PackageKitUpdater, AnswersFromWhatTheServiceSays) {
         updater.checkForUpdatesInBackground();
         EXPECT_FALSE(result) << "it must not wait";
         updater.checkForUpdatesInBackground(); // Not a second check.
-        QElapsedTimer timer;
-        for (timer.start(); !result && !timer.hasExpired(10'000);)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
+        LMWaitUntil([&] { return result.has_value(); });
         QObject::disconnect(connection);
         return result.value_or(LMUpdateResult{{}, u"no answer"_s});
     };
