@@ -9,6 +9,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSplitter>
 #include <QStyledItemDelegate>
@@ -27,6 +28,13 @@ public:
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
         const QSize size = QStyledItemDelegate::sizeHint(option, index);
         return size + QSize(0, option.fontMetrics.height() / 2);
+    }
+
+    /// A name that is being typed stays when its row is read anew.
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override {
+        const auto* line = qobject_cast<const QLineEdit*>(editor);
+        if (line == nullptr || !line->isModified())
+            QStyledItemDelegate::setEditorData(editor, index);
     }
 };
 

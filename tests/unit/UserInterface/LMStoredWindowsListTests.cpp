@@ -144,9 +144,12 @@ TEST_F(StoredWindowsList, AWorkspaceIsRenamedInPlace) {
         action(u"rename"_s).trigger();
         auto* field = view().findChild<QLineEdit*>();
         ASSERT_TRUE(field);
-        field->setText(row.typed);
-        // Something else is saved in the middle of it.
+        field->selectAll();
+        field->insert(row.typed);
+        // Something else is saved in the middle of it, and a display is unplugged.
         center.postNotification(LMNotification::SaveWindows);
+        desktop.setScreens({{0, 0, 1440, 900}});
+        desktop.announceScreenChange();
         EXPECT_EQ(field->text(), row.typed);
         QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
         QCoreApplication::sendEvent(field, &enter);
