@@ -10,12 +10,20 @@
 #include <QWidget>
 #include <QWindow>
 
+namespace {
+
+/// About what window managers put around a window, on either side alike. They take the place that a
+/// program asks for as the user's, even with the title bar off the screen.
+constexpr QSize Decoration(16, 64);
+
+} // namespace
+
 QRect LMCentredFrame(const QSize& size) {
     const QScreen* screen = QGuiApplication::screenAt(QCursor::pos());
     if (screen == nullptr)
         screen = QGuiApplication::primaryScreen();
     const QRect area = screen != nullptr ? screen->availableGeometry() : QRect();
-    QRect frame(QPoint(), size.boundedTo(area.size()));
+    QRect frame(QPoint(), size.boundedTo(area.size() - Decoration));
     frame.moveCenter(area.center());
     return frame;
 }
