@@ -29,6 +29,14 @@ protected:
         });
     }
 
+    /// The toolkit's timer of all animations outlives the application: when it does not hear that
+    /// a fade was stopped, no fade of a later test ever ends. One event brings about another.
+    void TearDown() override {
+        picker.close(false);
+        for (int passes = 0; passes < 3; ++passes)
+            QCoreApplication::sendPostedEvents();
+    }
+
     LMObjectContext& context() { return store.managedObjectContext(); }
     LMWorkspace& workspace() { return *context().objects<LMWorkspace>().front(); }
     LMApplication& editor() { return *workspace().applicationForBundleIdentifier(u"org.editor"_s); }
