@@ -146,10 +146,10 @@ class Soak:
             raise SystemExit(f"rook {' '.join(arguments)} failed")
 
     def memory(self) -> int:
-        """Proportional set size in KiB."""
+        """What the process has for itself, in KiB: libraries count more once nobody else uses them."""
         assert self.rook.process
         rollup = Path(f"/proc/{self.rook.process.identifier}/smaps_rollup").read_text()
-        return next(int(line.split()[1]) for line in rollup.splitlines() if line.startswith("Pss:"))
+        return next(int(line.split()[1]) for line in rollup.splitlines() if line.startswith("Pss_Anon:"))
 
     def finish(self) -> list[str]:
         """What is wrong at the end."""
