@@ -102,8 +102,7 @@ LMLoginItemsController::LMLoginItemsController(LMEnvironment& environment, QStri
     renewWatch();
 }
 
-// --- finding
-// --------------------------------------------------------------------------------------
+// --- finding -------------------------------------------------------------------------------
 
 QString LMLoginItemsController::loginItemForCurrentApplication() const {
     QSet<QString> masked;
@@ -148,8 +147,7 @@ QString LMLoginItemsController::systemFile(const QString& name) const {
     return {};
 }
 
-// --- changing
-// -------------------------------------------------------------------------------------
+// --- changing ------------------------------------------------------------------------------
 
 QString LMLoginItemsController::addCurrentApplicationToLoginItems() {
     if (m_folders.isEmpty())
@@ -189,8 +187,7 @@ QString LMLoginItemsController::hide(const QString& path) {
                                  "[Desktop Entry]\nType=Application\nName=Rook\nHidden=true\n");
 }
 
-// --- watching
-// -------------------------------------------------------------------------------------
+// --- watching ------------------------------------------------------------------------------
 
 /// The folders, or, where there is none yet, the nearest one above it.
 QStringList LMLoginItemsController::nearestFolders() const {

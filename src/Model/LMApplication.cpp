@@ -42,8 +42,7 @@ LMWorkspace* LMApplication::workspace() const {
     return static_cast<LMWorkspace*>(owner());
 }
 
-// --- stored windows
-// -------------------------------------------------------------------------------
+// --- stored windows ------------------------------------------------------------------------
 
 LMMutableSet<LMStoredWindow> LMApplication::windows() {
     return {m_windows, [this](LMStoredWindow* window) { addWindowsObject(window); },
@@ -97,8 +96,7 @@ std::vector<LMStoredWindow*> LMApplication::orderedWindows() {
     return LMMembersInOrder<LMStoredWindow>(*this, m_windowsOrdering);
 }
 
-// --- what the context asks
-// ------------------------------------------------------------------------
+// --- what the context asks -----------------------------------------------------------------
 
 void LMApplication::insertPrimitiveMember(LMManagedObject& member) {
     m_windows.push_back(static_cast<LMStoredWindow*>(&member));

@@ -65,8 +65,7 @@ LMApplication* LMStoredWindow::application() const {
     return static_cast<LMApplication*>(owner());
 }
 
-// --- derived values
-// -------------------------------------------------------------------------------
+// --- derived values ------------------------------------------------------------------------
 
 QString LMStoredWindow::title() {
     const std::vector<LMWindow*> windows = orderedMatchingWindows();
@@ -94,8 +93,7 @@ bool LMStoredWindow::matchesFloatingWindows() const {
     });
 }
 
-// --- matching windows
-// -----------------------------------------------------------------------------
+// --- matching windows ----------------------------------------------------------------------
 
 LMMutableSet<LMWindow> LMStoredWindow::matchingWindows() {
     return {m_matchingWindows, [this](LMWindow* window) { addMatchingWindowsObject(window); },
@@ -145,8 +143,7 @@ std::vector<LMWindow*> LMStoredWindow::orderedMatchingWindows() {
     return LMMembersInOrder<LMWindow>(*this, m_matchingWindowsOrdering);
 }
 
-// --- what the context asks
-// ------------------------------------------------------------------------
+// --- what the context asks -----------------------------------------------------------------
 
 void LMStoredWindow::insertPrimitiveMember(LMManagedObject& member) {
     m_matchingWindows.push_back(static_cast<LMWindow*>(&member));

@@ -12,8 +12,7 @@
 
 #include <utility>
 
-// --- texts
-// ----------------------------------------------------------------------------------------
+// --- texts ---------------------------------------------------------------------------------
 
 QString LMStoreError::informativeText() const {
     switch (failure) {
@@ -50,8 +49,7 @@ QString LMStoredWindowsStore::programVersion() {
     return QStringLiteral(ROOK_VERSION);
 }
 
-// --- opening
-// --------------------------------------------------------------------------------------
+// --- opening -------------------------------------------------------------------------------
 
 LMStoredWindowsStore::LMStoredWindowsStore(LMEnvironment& environment, QString version)
     : LMStoredWindowsStore(environment, std::move(version), LMRookModel()) {}

@@ -45,8 +45,7 @@ void LMWorkspace::setName(const QString& name) {
     setAttribute(m_name, name);
 }
 
-// --- relationships
-// --------------------------------------------------------------------------------
+// --- relationships -------------------------------------------------------------------------
 
 LMMutableSet<LMApplication> LMWorkspace::applications() {
     return {m_applications, [this](auto* object) { addApplicationsObject(object); },

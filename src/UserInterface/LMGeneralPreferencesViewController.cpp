@@ -111,8 +111,7 @@ QString LMGeneralPreferencesViewController::toolbarItemLabel() const {
     return LMLocalized("General");
 }
 
-// --- the view
-// -------------------------------------------------------------------------------------
+// --- the view ------------------------------------------------------------------------------
 
 QWidget* LMGeneralPreferencesViewController::loadView() {
     auto* view = new QWidget;
@@ -220,8 +219,7 @@ void LMGeneralPreferencesViewController::viewWillAppear() {
     updateUI();
 }
 
-// --- start at login
-// -------------------------------------------------------------------------------
+// --- start at login ------------------------------------------------------------------------
 
 void LMGeneralPreferencesViewController::loginItemsChanged() {
     if (m_startAtLoginCheckbox)
@@ -251,8 +249,7 @@ void LMGeneralPreferencesViewController::showFailure(const QString& message,
     sheet->open();
 }
 
-// --- updates and warnings
-// -------------------------------------------------------------------------
+// --- updates and warnings ------------------------------------------------------------------
 
 void LMGeneralPreferencesViewController::automaticUpdatesStatusChanged(bool isOn) {
     if (isOn)
@@ -273,8 +270,7 @@ void LMGeneralPreferencesViewController::resetAllWarnings() {
     supressedAlertsChanged();
 }
 
-// --- the menu icon
-// --------------------------------------------------------------------------------
+// --- the menu icon -------------------------------------------------------------------------
 
 bool LMGeneralPreferencesViewController::showMenuCheckboxEnabled() const {
     return LMShortcut::fromData(m_environment.userDefaults.dataForKey(Keys::ShowMenuHotKey))

@@ -68,8 +68,7 @@ void LMShortcutRecorder::clear() {
     m_environment.userDefaults.removeObject(m_key);
 }
 
-// --- recording
-// ------------------------------------------------------------------------------------
+// --- recording -----------------------------------------------------------------------------
 
 void LMShortcutRecorder::startRecording() {
     if (isRecording())
@@ -188,8 +187,7 @@ void LMShortcutRecorder::record(const LMKeyPress& press) {
     m_environment.userDefaults.setObject(m_key, recorded->data());
 }
 
-// --- showing
-// --------------------------------------------------------------------------------------
+// --- showing -------------------------------------------------------------------------------
 
 void LMShortcutRecorder::update() {
     const std::optional<LMShortcut> current = shortcut();

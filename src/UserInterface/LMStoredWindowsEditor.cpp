@@ -17,8 +17,7 @@
 
 #include <QUndoCommand>
 
-// --- removing
-// -------------------------------------------------------------------------------------
+// --- removing ------------------------------------------------------------------------------
 
 /// A removal on the undo stack.
 class LMStoredWindowsEditor::Removal final : public QUndoCommand {
@@ -71,8 +70,7 @@ void LMStoredWindowsEditor::remove(LMTableView* sender) {
     saveWindows();
 }
 
-// --- the workspace
-// --------------------------------------------------------------------------------
+// --- the workspace -------------------------------------------------------------------------
 
 LMStoredWindowsEditor::LMStoredWindowsEditor(LMEnvironment& environment,
                                              LMStoredWindowsStore& store)
@@ -137,8 +135,7 @@ void LMStoredWindowsEditor::orderWindows(const QList<LMObjectID>& windows) {
     saveWindows();
 }
 
-// --- the window
-// -----------------------------------------------------------------------------------
+// --- the window ----------------------------------------------------------------------------
 
 QWidget* LMStoredWindowsEditor::window() {
     return m_window.get();

@@ -49,8 +49,7 @@ void LMStoredWindowsEditor::addAction(int tag) {
         m_window->editLabelOfAction(action->objectID());
 }
 
-// --- importing
-// ------------------------------------------------------------------------------------
+// --- importing -----------------------------------------------------------------------------
 
 void LMStoredWindowsEditor::askForScript() {
     if (!workspace() || !m_window)
@@ -79,8 +78,7 @@ void LMStoredWindowsEditor::showAlert(const LMAlert& alert) {
     sheet->open();
 }
 
-// --- running
-// --------------------------------------------------------------------------------------
+// --- running -------------------------------------------------------------------------------
 
 void LMStoredWindowsEditor::runAction() {
     if (!m_window)

@@ -67,8 +67,7 @@ void LMStoredWindowsList::reloadTableViews() {
     m_storedWindowsEditor.reloadTableViews();
 }
 
-// --- the selection
-// ------------------------------------------------------------------------------------
+// --- the selection -------------------------------------------------------------------------
 
 int LMStoredWindowsList::selectedRow() const {
     if (!m_window)
@@ -99,8 +98,7 @@ void LMStoredWindowsList::selectionDidChange() {
                                                        State::CanBecomeCurrent);
 }
 
-// --- what the user asks for
-// ---------------------------------------------------------------------------
+// --- what the user asks for ----------------------------------------------------------------
 
 void LMStoredWindowsList::removeWorkspace() {
     const LMObjectID workspace = selectedObjectID();

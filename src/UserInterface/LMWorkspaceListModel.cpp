@@ -104,8 +104,7 @@ private:
 LMWorkspaceListModel::LMWorkspaceListModel(LMEnvironment& environment, LMStoredWindowsStore& store)
     : m_environment(environment), m_store(store) {}
 
-// --- reading the store
-// --------------------------------------------------------------------------------
+// --- reading the store ---------------------------------------------------------------------
 
 LMWorkspaceListModel::Row LMWorkspaceListModel::row(const LMWorkspace& workspace,
                                                     const Attached& attached) {
@@ -168,8 +167,7 @@ LMWorkspace* LMWorkspaceListModel::workspace(const LMObjectID& objectID) const {
         m_store.managedObjectContext().existingObjectWithID(objectID));
 }
 
-// --- the table
-// ----------------------------------------------------------------------------------------
+// --- the table -----------------------------------------------------------------------------
 
 int LMWorkspaceListModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : int(m_rows.size());
@@ -278,8 +276,7 @@ bool LMWorkspaceListModel::setData(const QModelIndex& index, const QVariant& val
     return true;
 }
 
-// --- the order
-// ----------------------------------------------------------------------------------------
+// --- the order -----------------------------------------------------------------------------
 
 LMWorkspaceOrder::LMWorkspaceOrder(LMWorkspaceListModel& workspaces) {
     if (m_collator.locale() == QLocale::c()) // There characters are only numbers.

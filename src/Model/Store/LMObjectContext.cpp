@@ -16,8 +16,7 @@ LMObjectContext::LMObjectContext(const LMObjectModel& model, LMEnvironment& envi
 
 LMObjectContext::~LMObjectContext() = default;
 
-// --- finding
-// --------------------------------------------------------------------------------------
+// --- finding -------------------------------------------------------------------------------
 
 LMManagedObject* LMObjectContext::objectWithKey(const Entity& entity, qint64 key) const {
     const auto found = std::lower_bound(
@@ -71,8 +70,7 @@ LMObjectContext::unattachedObjects(const LMEntityDescription& entity) {
     return candidates;
 }
 
-// --- inserting and deleting
-// -----------------------------------------------------------------------
+// --- inserting and deleting ----------------------------------------------------------------
 
 LMManagedObject* LMObjectContext::insertObjectForEntity(const QString& entityName) {
     const LMEntityDescription* entity = m_model.entityNamed(entityName);
@@ -155,8 +153,7 @@ void LMObjectContext::deleteObject(LMManagedObject* object) {
     m_deleted.push_back(object);
 }
 
-// --- freeing
-// --------------------------------------------------------------------------------------
+// --- freeing -------------------------------------------------------------------------------
 
 LMObjectContext::Mark LMObjectContext::mark() const {
     Mark mark;

@@ -161,8 +161,7 @@ LMPersistentStore::open(const QString& path, const LMObjectModel& model, const L
     }
 }
 
-// --- reading
-// --------------------------------------------------------------------------------------
+// --- reading -------------------------------------------------------------------------------
 
 void LMPersistentStore::Private::readEntity(const LMEntityDescription& entity,
                                             const RowHandler& handler) {
@@ -207,8 +206,7 @@ LMResult<std::vector<qint64>, QString> LMPersistentStore::readObjects(const RowH
     }
 }
 
-// --- writing
-// --------------------------------------------------------------------------------------
+// --- writing -------------------------------------------------------------------------------
 
 void LMPersistentStore::Private::writeNextKeys(const std::vector<qint64>& nextKeys) {
     if (nextKeys == writtenNextKeys)

@@ -71,8 +71,7 @@ void LMStoredWindowsEditorWindow::editLabelOfAction(const LMObjectID& action) {
     m_actionsTableView->edit(cell);
 }
 
-// --- what follows from a selection
-// ----------------------------------------------------------------
+// --- what follows from a selection ---------------------------------------------------------
 
 void LMStoredWindowsEditorWindow::showWindowsOfApplication() {
     m_windows->setApplication(

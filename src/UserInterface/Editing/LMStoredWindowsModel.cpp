@@ -86,8 +86,7 @@ Qt::ItemFlags LMStoredWindowsModel::flags(const QModelIndex& index) const {
     return isEditable ? flags | Qt::ItemIsEditable : flags;
 }
 
-// --- moving
-// ---------------------------------------------------------------------------------------
+// --- moving --------------------------------------------------------------------------------
 
 QStringList LMStoredWindowsModel::mimeTypes() const {
     return {WindowFormat};

@@ -172,6 +172,7 @@ TEST_F(StoredWindowsEditor, KeepsWhatIsBeingTypedWhenTheStoreChanges) {
     editor.close();
     EXPECT_EQ(editor.window(), nullptr);
     editor.close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 TEST_F(StoredWindowsEditor, RemovesByKeyAndTakesItBack) {
