@@ -44,11 +44,15 @@ TEST_P(ApplicationsContract, ManyProcessesAreOneApplicationOfTheOldest) {
 TEST_P(ApplicationsContract, ActivationGivesTheFocusToTheLatestWindow) {
     const LMElement older = open({.title = u"1"_qs});
     const LMElement latest = open({.title = u"2"_qs});
+    const LMElement application = *accessibility().createApplication(process(first));
     backend->raise(latest);
+    ASSERT_TRUE(LMWaitUntil([&] {
+        return running(first).isActive &&
+               read<LMElement>(application, LMAttribute::FocusedWindow) == latest;
+    })) << "a busy manager may give the focus on at once, and nobody would have had it";
     backend->raise(open({.application = second}));
     ASSERT_TRUE(LMWaitUntil([&] { return running(second).isActive; }));
     EXPECT_FALSE(running(first).isActive);
-    const LMElement application = *accessibility().createApplication(process(first));
     EXPECT_EQ(read<LMElement>(application, LMAttribute::FocusedWindow), latest);
 
     EXPECT_TRUE(inTime(desktop().applications().activate(process(first))));

@@ -34,7 +34,7 @@ Value windowValue(const LMElement& element, const LMFakeWindow& window, QLatin1S
     QList<LMElement> children;
     for (int index = 0; index < window.childRoles.size(); ++index)
         children.append({LMElement::Kind::Child, element.identifier, index});
-    const std::map<QLatin1String, Value> values{
+    const std::map<QString, Value> values{
         {LMAttribute::Title, text(window.title)},
         {LMAttribute::Role, text(u"AXWindow"_qs)},
         {LMAttribute::Subrole, text(window.subrole)},
