@@ -34,6 +34,9 @@ public:
     /// The session manager asks for everything to be saved, since the session may end now.
     void setCommitDataHandler(std::function<void()> handler);
 
+    /// Called whenever the last of the program's own windows has closed.
+    void setLastWindowClosedHandler(std::function<void()> handler);
+
 private:
     int m_argumentCount = 0;
     // The application object refers to them as long as it lives.

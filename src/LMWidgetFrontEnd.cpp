@@ -97,3 +97,9 @@ void LMFrontEnd::setCommitDataHandler(std::function<void()> handler) {
         [](QSessionManager& manager) { manager.setRestartHint(QSessionManager::RestartNever); },
         Qt::DirectConnection);
 }
+
+void LMFrontEnd::setLastWindowClosedHandler(std::function<void()> handler) {
+    if (auto* application = qobject_cast<QGuiApplication*>(m_application.get()))
+        QObject::connect(application, &QGuiApplication::lastWindowClosed, application,
+                         std::move(handler));
+}

@@ -16,3 +16,5 @@ LMFrontEnd::makeUserInterface(LMEnvironment& environment, LMStoredWindowsStore&,
 }
 
 void LMFrontEnd::setCommitDataHandler(std::function<void()>) {}
+
+void LMFrontEnd::setLastWindowClosedHandler(std::function<void()>) {}

@@ -7,6 +7,7 @@
 #include "Controller/LMUnixSignals.h"
 #include "LMExitGuard.h"
 #include "LMFrontEnd.h"
+#include "LMIdleMemory.h"
 #include "Model/LMStoredWindowsStore.h"
 #include "Platform/LMClock.h"
 #include "Platform/LMDesktopFactory.h"
@@ -88,8 +89,12 @@ int serve(LMFrontEnd& frontEnd, LMDesktop& desktop, LMLogger& logger, LMUnixSign
     frontEnd.setCommitDataHandler([&delegate] { delegate.commitData(); });
     // The toolkit leaves by exit() when the X server dies and it notices first.
     const LMExitGuard exitGuard([&delegate] { delegate.cleanAndSave(); });
-    if (delegate.finishLaunching())
+    LMIdleMemory idleMemory;
+    frontEnd.setLastWindowClosedHandler([&idleMemory] { idleMemory.releaseSoon(); });
+    if (delegate.finishLaunching()) {
+        idleMemory.releaseSoon();
         QCoreApplication::exec();
+    }
     delegate.applicationWillTerminate();
     if (!delegate.launchFailure().isEmpty())
         exitCode = complain(delegate.launchFailure());
