@@ -28,6 +28,15 @@ QByteArray resource(const QString& name) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+/// The entry that packages install, starting this very file instead of what the path finds.
+QByteArray entryFor(const QString& executable, const QString& name) {
+    QString asString = executable;
+    asString.replace(u'\\', QLatin1String("\\\\")).replace(u'\n', QLatin1String("\\n"));
+    QByteArray entry = resource(name);
+    return entry.replace("\nExec=rook", "\nExec=" + LMExecOfArgument(executable).toUtf8())
+        .replace("\nTryExec=rook", "\nTryExec=" + asString.toUtf8());
+}
+
 } // namespace
 
 void LMOfferLauncher(LMEnvironment& environment, LMUserInterface& userInterface) {
@@ -70,8 +79,11 @@ QString LMWriteFileAtomically(const QString& path, const QByteArray& data) {
 }
 
 QByteArray LMLauncherEntry(const QString& executable) {
-    QByteArray entry = resource(QStringLiteral("org.rook.Rook.desktop"));
-    return entry.replace("\nExec=rook", "\nExec=" + LMExecOfArgument(executable).toUtf8());
+    return entryFor(executable, QStringLiteral("org.rook.Rook.desktop"));
+}
+
+QByteArray LMAutostartEntry(const QString& executable) {
+    return entryFor(executable, QStringLiteral("org.rook.Rook.autostart.desktop"));
 }
 
 QString LMWriteLauncher(const QString& executable) {

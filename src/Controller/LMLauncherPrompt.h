@@ -16,8 +16,10 @@ void LMOfferLauncher(LMEnvironment& environment, LMUserInterface& userInterface)
 /// the prefix the program was installed to.
 bool LMHasLauncher(const QString& executable);
 
-/// The desktop entry that starts the program from where it is.
+/// The desktop entries that packages install, for menus and for the start of a session, starting
+/// the program from where it is.
 QByteArray LMLauncherEntry(const QString& executable);
+QByteArray LMAutostartEntry(const QString& executable);
 
 /// Replaces the file in one step, and makes its directory. Null, or why it could not be done.
 QString LMWriteFileAtomically(const QString& path, const QByteArray& data);

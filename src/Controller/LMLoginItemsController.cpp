@@ -160,7 +160,7 @@ QString LMLoginItemsController::addCurrentApplicationToLoginItems() {
         QFile::remove(path);
     return isCurrentApplicationInLoginItems()
                ? QString()
-               : LMWriteFileAtomically(path, LMLauncherEntry(m_executable));
+               : LMWriteFileAtomically(path, LMAutostartEntry(m_executable));
 }
 
 QString LMLoginItemsController::removeCurrentApplicationFromLoginItems() {

@@ -80,14 +80,24 @@ TEST_F(LoginItems, AreWhatTheEntriesInForceSay) {
     qunsetenv("XDG_CURRENT_DESKTOP");
 }
 
-TEST_F(LoginItems, StartThisVeryProgram) {
+TEST_F(LoginItems, StartThisVeryProgramAsThePackageDoes) {
     make()->addCurrentApplicationToLoginItems();
     const auto entry = LMKeyFile::fromFile(user + ours);
-    ASSERT_TRUE(entry);
-    const auto value = [&](const QString& key) { return entry->value(u"Desktop Entry"_s, key); };
-    EXPECT_EQ(LMArgumentsOfExec(value(u"Exec"_s)),
-              QStringList{QString(program).replace(u'%', u"%%"_s)});
-    EXPECT_EQ(value(u"Type"_s), u"Application"_s);
+    const auto packaged = LMKeyFile::fromFile(QStringLiteral(ROOK_AUTOSTART_ENTRY));
+    ASSERT_TRUE(entry && packaged);
+    EXPECT_EQ(entry->groups(), packaged->groups());
+    const QString group = u"Desktop Entry"_s;
+    const QStringList keys = packaged->keys(group);
+    EXPECT_TRUE(keys.contains(u"Exec"_s) && keys.contains(u"TryExec"_s));
+    for (const QString& key : keys) {
+        const QString value = entry->value(group, key);
+        if (key == "Exec"_L1)
+            EXPECT_EQ(LMArgumentsOfExec(value),
+                      QStringList{QString(program).replace(u'%', u"%%"_s)});
+        else
+            EXPECT_EQ(value, key == "TryExec"_L1 ? program : packaged->value(group, key))
+                << key.toStdString();
+    }
 }
 
 TEST_F(LoginItems, AreWatchedWhereverTheFolderComesFrom) {
