@@ -6,6 +6,7 @@
 #include "Utilities/LMFormat.h"
 
 #include <QDBusConnectionInterface>
+#include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -60,8 +61,13 @@ int LMClient::run(const LMInvocation& invocation) {
         print(m_errors, LMLocalized("rook: there is no session bus to reach Rook through"));
         return LMExitCode::NotRunning;
     }
-    if (!isResidentRunning())
-        return notRunning();
+    if (!isResidentRunning()) {
+        // A report would tell about a process that was made for it, and nothing is there to end.
+        if (invocation.kind != LMInvocation::Kind::Command)
+            return notRunning();
+        if (const int exitCode = startResident(); exitCode != LMExitCode::Done)
+            return exitCode;
+    }
     if (const QString activity = activityOfCaller(); !activity.isEmpty())
         return failed(
             LMFormat(LMLocalized("Rook waits for the script that calls it. %@"), {activity}));
@@ -126,6 +132,17 @@ int LMClient::quit(const LMInvocation& invocation) {
 bool LMClient::isResidentRunning() const {
     const QDBusReply<bool> reply = m_bus.interface()->isServiceRegistered(Service);
     return reply.isValid() && reply.value();
+}
+
+/// Has the bus start Rook, if it knows how: where Rook is installed, a file tells it.
+int LMClient::startResident() const {
+    const QDBusReply<void> reply = m_bus.interface()->startService(Service);
+    if (reply.isValid())
+        return LMExitCode::Done;
+    if (reply.error().type() == QDBusError::ServiceUnknown)
+        return notRunning();
+    return failed(
+        LMFormat(LMLocalized("Rook could not be started. %@"), {reply.error().message()}));
 }
 
 QDBusMessage LMClient::call(const LMInvocation& invocation) const {

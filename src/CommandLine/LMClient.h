@@ -14,7 +14,8 @@ public:
     /// Results go to output, reasons for failure to errors, one line each.
     LMClient(const QDBusConnection& bus, std::FILE* output, std::FILE* errors);
 
-    /// Carries out a Command, Report or Quit and answers the exit code.
+    /// Carries out a Command, Report or Quit and answers the exit code. Only a Command starts the
+    /// resident process when there is none.
     int run(const LMInvocation& invocation);
 
 private:
@@ -23,6 +24,7 @@ private:
     int quit(const LMInvocation& invocation);
 
     bool isResidentRunning() const;
+    int startResident() const;
     QDBusMessage call(const LMInvocation& invocation) const;
     QDBusMessage ask(const QDBusMessage& message, bool notesDelay) const;
     qint64 residentProcess() const;

@@ -132,7 +132,10 @@ std::string footer() {
     std::string text = "Exit codes:";
     for (const auto& [code, meaning] : ExitCodes)
         text += (code == 0 ? " " : ", ") + std::to_string(code) + ' ' + meaning;
-    return text + ".\nWithout a command Rook starts its resident process in the foreground.";
+    return text +
+           ".\nWithout a command Rook starts its resident process in the foreground. Where Rook "
+           "is installed, a\ncommand that does something starts it, too; list, plan, quit, "
+           "status and windows never do.";
 }
 
 /// Fills the application with everything it understands. Parsing writes to invocation and options,

@@ -25,6 +25,7 @@ VERSION = PACKAGE.name.split("_")[1]
 OLDER = "0.0.9"
 AS_ROOT = [] if os.geteuid() == 0 else ["fakeroot", "--"]
 CALL = ["gdbus", "call", "--session", "--timeout", "60", "--dest", "org.rook.Rook", "--object-path", "/org/rook/Rook"]
+BUS = ["gdbus", "call", "--session", "--dest", "org.freedesktop.DBus", "--object-path", "/org/freedesktop/DBus"]
 
 
 def run(*arguments: object, environment: dict[str, str] | None = None, check: bool = True) -> str:
@@ -77,8 +78,7 @@ class InstalledPackage(unittest.TestCase):
         self.assertIn("ExecStart=/usr/bin/rook\n", (self.root / "usr/lib/systemd/user" / unit[1]).read_text())
         relocated = installed.replace("/usr/bin", f"{self.root}/usr/bin").replace(unit[0], "")
         (self.session.work.path / "services/org.rook.Rook.service").write_text(relocated)
-        run("gdbus", "call", "--session", "--dest", "org.freedesktop.DBus", "--object-path", "/org/freedesktop/DBus",
-            "--method", "org.freedesktop.DBus.ReloadConfig", environment=self.environment)
+        run(*BUS, "--method", "org.freedesktop.DBus.ReloadConfig", environment=self.environment)
 
     def stored_windows(self) -> int:
         match = re.search(r'"storedWindows": (\d+)', self.rook("status", "--json"))
@@ -95,14 +95,26 @@ class InstalledPackage(unittest.TestCase):
             for file in files:
                 self.assertFalse(stat.S_IMODE(file.stat().st_mode) & 0o077, f"others can read {file}")
 
+    def check_that_questions_start_nothing(self) -> None:
+        for command in ("status", "list", "windows", "plan", "quit"):
+            with self.subTest(command):
+                result = subprocess.run(["rook", command], env=self.environment, capture_output=True, timeout=60)
+                self.assertEqual((result.returncode, result.stdout), (3, b""))
+        self.assertIn("false", run(*BUS, "--method", "org.freedesktop.DBus.NameHasOwner", "org.rook.Rook",
+                                   environment=self.environment))
+
     def check_actions(self) -> None:
-        """What a panel offers on the launcher does something while Rook runs."""
+        """What a panel offers on the launcher does its work though Rook does not run yet."""
         entry = (self.root / "usr/share/applications/org.rook.Rook.desktop").read_text()
-        actions = re.findall(r"^\[Desktop Action (\w+)\]\nName=.+\nExec=(.+)$", entry, re.MULTILINE)
+        actions = re.findall(r"^\[Desktop Action (\w+)\]\n(?:Name.*\n)+Exec=(.+)$", entry, re.MULTILINE)
         self.assertEqual(f"Actions={';'.join(name for name, _ in actions)};", re.search("^Actions=.*$", entry, re.M)[0])
+        windows = {"StoredWindows": "Stored Windows", "Preferences": "Preferences"}
         for name, command in actions:
             with self.subTest(name):
                 run("sh", "-c", command, environment=self.environment)
+                if name in windows:
+                    self.session.run("xdotool", "search", "--sync", "--onlyvisible", "--name", windows[name])
+                self.rook("quit")
 
     def check_pages(self) -> None:
         """The manual page and every shell know what --help knows."""
@@ -147,6 +159,7 @@ class InstalledPackage(unittest.TestCase):
         self.dpkg("--install", PACKAGE)
         self.assertEqual(self.rook("--version").strip(), f"rook {VERSION}")
         self.activate_through_bus()
+        self.check_that_questions_start_nothing()
         answer = run(*CALL, "--method", "org.rook.Rook1.RestoreAll", environment=self.environment)
         why = run(*CALL, "--method", "org.freedesktop.DBus.Properties.Get", "org.rook.Rook1", "LastRefusal",
                   environment=self.environment)
@@ -155,9 +168,9 @@ class InstalledPackage(unittest.TestCase):
         self.assertEqual(len(list(self.folder("Backups").glob(f"Stored Windows {OLDER} (*).sqlite"))), 1)
         self.check_pages()
         self.check_completed_identifiers()
-        self.check_actions()
         self.check_that_only_the_owner_can_read()
         self.rook("quit")
+        self.check_actions()
 
         self.dpkg("--purge", "rook")
         database = self.root / "var/lib/dpkg"
