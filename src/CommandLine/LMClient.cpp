@@ -86,7 +86,7 @@ int LMClient::run(const LMInvocation& invocation) {
 int LMClient::command(const LMInvocation& invocation) {
     const QDBusMessage reply = call(invocation);
     if (reply.type() != QDBusMessage::ReplyMessage)
-        return failed(reply.errorMessage());
+        return failed(whyNoReply(reply));
     const QString why = refusal();
     if (reply.arguments().value(0).toBool()) {
         if (!why.isEmpty())
@@ -99,7 +99,7 @@ int LMClient::command(const LMInvocation& invocation) {
 int LMClient::report(const LMInvocation& invocation) {
     const QDBusMessage reply = call(invocation);
     if (reply.type() != QDBusMessage::ReplyMessage)
-        return failed(reply.errorMessage());
+        return failed(whyNoReply(reply));
     const QJsonDocument document =
         QJsonDocument::fromJson(reply.arguments().value(0).toString().toUtf8());
     if (invocation.wantsJson)
@@ -149,6 +149,7 @@ QDBusMessage LMClient::call(const LMInvocation& invocation) const {
     QDBusMessage message =
         QDBusMessage::createMethodCall(Service, Path, Interface, invocation.method);
     message.setArguments(invocation.arguments);
+    message.setAutoStartService(false); // One that has just ended would be started again.
     QElapsedTimer sinceStart;
     sinceStart.start();
     while (true) {
@@ -205,9 +206,16 @@ QString LMClient::activityOfCaller() const {
 }
 
 QString LMClient::refusal() const {
-    const QDBusReply<QString> reply = m_bus.call(
-        QDBusMessage::createMethodCall(Service, Path, Interface, QStringLiteral("Refusal")));
-    return reply.value();
+    QDBusMessage message =
+        QDBusMessage::createMethodCall(Service, Path, Interface, QStringLiteral("Refusal"));
+    message.setAutoStartService(false);
+    return QDBusReply<QString>(m_bus.call(message)).value();
+}
+
+QString LMClient::whyNoReply(const QDBusMessage& reply) const {
+    return isResidentRunning()
+               ? reply.errorMessage()
+               : LMLocalized("Rook has ended without an answer; start it with “rook” to see why");
 }
 
 int LMClient::notRunning() const {

@@ -31,6 +31,7 @@ private:
     QString activity() const;
     QString activityOfCaller() const;
     QString refusal() const;
+    QString whyNoReply(const QDBusMessage& reply) const;
     int notRunning() const;
     int failed(const QString& why) const;
     void print(std::FILE* stream, const QString& text) const;
