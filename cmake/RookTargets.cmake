@@ -11,9 +11,12 @@ target_compile_definitions(RookOptions INTERFACE
     QT_NO_URL_CAST_FROM_STRING QT_NO_KEYWORDS QT_NO_FOREACH QT_STRICT_ITERATORS
     QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 
-# The same sources give the same bytes, wherever they are built; what is shipped is hardened.
-add_compile_options("$<$<CONFIG:Release>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=>")
-add_link_options("$<$<CONFIG:Release>:LINKER:-z,relro,-z,now>")
+# The same sources give the same bytes, wherever and whenever they are built.
+add_compile_options("$<$<CONFIG:Release>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}/=;-Wdate-time>")
+# What is shipped is hardened as Debian hardens all it builds (dpkg-buildflags, hardening=+all).
+add_compile_definitions("$<$<CONFIG:Release>:_FORTIFY_SOURCE=2>")
+add_compile_options("$<$<CONFIG:Release>:-fstack-protector-strong;-Wformat;-Werror=format-security>")
+add_link_options("$<$<CONFIG:Release>:-pie>" "$<$<CONFIG:Release>:LINKER:-z,relro,-z,now>")
 
 if(ROOK_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined
