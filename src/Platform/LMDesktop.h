@@ -7,6 +7,7 @@
 #include "Platform/LMHotKeys.h"
 #include "Platform/LMScreens.h"
 #include "Platform/LMWindowServer.h"
+#include "Platform/LMWindowStates.h"
 
 #include <QObject>
 #include <QStringList>
@@ -35,6 +36,7 @@ public:
 
     virtual LMAccessibility& accessibility() = 0;
     virtual LMWindowServer& windowServer() = 0;
+    virtual LMWindowStates& windowStates() = 0;
     virtual LMScreens& screens() = 0;
     virtual LMApplications& applications() = 0;
     virtual LMHotKeys& hotKeys() = 0;

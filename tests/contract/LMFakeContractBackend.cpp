@@ -17,22 +17,22 @@ public:
         m_desktop.window(window).title = title;
     }
     void minimize(const LMElement& window) override {
-        m_desktop.window(window).isMinimized = true;
+        m_desktop.window(window).state.isMinimized = true;
         m_desktop.world().focusFrontWindow();
     }
     void setState(const LMElement& element, LMContractState state) override {
         LMFakeWindow& window = m_desktop.window(element);
         if (state == LMContractState::Above)
-            window.layer = 3;
+            window.state.isKeptAbove = true;
         else
-            window.hasImmutablePosition = window.hasImmutableSize = true;
+            window.state.isFullscreen = true;
     }
     void raise(const LMElement& window) override { m_desktop.focus(window); }
     void freeze(const LMElement& window) override { m_desktop.window(window).neverAnswers = true; }
     void breakConnection() override { m_desktop.loseConnection(u"The test broke it."_qs); }
     QRectF visibleFrame(const LMElement& window) override { return m_desktop.window(window).frame; }
     bool isMinimized(const LMElement& window) override {
-        return m_desktop.window(window).isMinimized;
+        return m_desktop.window(window).state.isMinimized;
     }
     QList<QRectF> monitors() override {
         QList<QRectF> rectangles;

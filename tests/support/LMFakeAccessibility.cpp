@@ -163,13 +163,14 @@ LMPlatformResult<bool> LMFakeAccessibility::isAttributeSettable(const LMElement&
     const bool isSettable = attribute == LMAttribute::Position
                                 ? !window->hasImmutablePosition
                                 : attribute == LMAttribute::Size && !window->hasImmutableSize;
-    return LMPlatformResult<bool>::success(element.kind == LMElement::Kind::Window && isSettable);
+    return LMPlatformResult<bool>::success(element.kind == LMElement::Kind::Window &&
+                                           !window->state.isFullscreen && isSettable);
 }
 
 LMPlatformStatus LMFakeAccessibility::setAttributeValue(const LMElement& element,
                                                         QLatin1String attribute,
                                                         const LMAttributeValue& value) {
-    m_remembered.erase(element.identifier);
+    forget(element);
     const auto window = m_world.windows.find(quint32(element.identifier));
     if (element.kind != LMElement::Kind::Window || window == m_world.windows.end())
         return Failed{InvalidElement};
@@ -183,8 +184,13 @@ LMPlatformStatus LMFakeAccessibility::setAttributeValue(const LMElement& element
         return Failed{NotSettable};
     m_world.log.add(point ? request("position", *window, point->x(), point->y())
                           : request("size", *window, size->width(), size->height()));
-    if (point ? window->hasImmutablePosition : window->hasImmutableSize)
+    if (window->state.isFullscreen ||
+        (point ? window->hasImmutablePosition : window->hasImmutableSize))
         return Failed{NotSettable};
+    LMWindowState state = window->state;
+    state.isMaximizedHorizontally = state.isMaximizedVertically = false;
+    if (state != window->state)
+        m_world.changeState(*window, state);
     if (point)
         window->frame.moveTopLeft(*point);
     else if (window->ignoredSizeChanges > 0)

@@ -27,6 +27,10 @@ public:
     void beginReading(const QList<LMElement>& windows) override;
     void endReading() override;
 
+    /// As it is remembered, else as it is; other errors than of the window's own are not injected.
+    LMPlatformResult<LMFakeWindow> readWindow(const LMElement& element);
+    void forget(const LMElement& window) { m_remembered.erase(window.identifier); }
+
     // --- for tests ----------------------------------------------------------------------------
     /// Makes this call fail after so many calls that go well.
     void fail(const LMElement& element, LMFakeCall call, QLatin1String attribute,
@@ -48,7 +52,6 @@ private:
     /// What tests, or the loss of the connection, make the call answer.
     std::optional<LMPlatformResult<LMAttributeValue>>
     injected(const LMElement& element, LMFakeCall call, QLatin1String attribute);
-    LMPlatformResult<LMFakeWindow> readWindow(const LMElement& element);
     LMPlatformResult<LMAttributeValue> applicationValue(const LMElement& element,
                                                         QLatin1String attribute);
     LMPlatformResult<QList<LMElement>> elements(const LMElement& element, LMFakeCall call,

@@ -17,7 +17,7 @@ QList<LMRunningApplication> LMFakeApplications::runningApplications() {
                            .activationPolicy = application.activationPolicy,
                            .isActive = windows.contains(m_world.focusedWindow.value_or(0)),
                            .isHidden = std::ranges::all_of(windows, [this](quint32 number) {
-                               return m_world.windows[number].isMinimized;
+                               return m_world.windows[number].state.isMinimized;
                            })});
     }
     return result;
@@ -37,7 +37,7 @@ bool LMFakeApplications::activate(qint64 processIdentifier) {
     if (!application)
         return false;
     for (const quint32 number : m_world.windowsOf(*application)) {
-        if (m_world.windows[number].isMinimized)
+        if (m_world.windows[number].state.isMinimized)
             continue;
         m_world.raise(number);
         m_world.focusedWindow = number;
@@ -52,9 +52,9 @@ bool LMFakeApplications::hide(qint64 processIdentifier) {
         return false;
     for (const quint32 number : m_world.windowsOf(*application)) {
         LMFakeWindow& window = m_world.windows[number];
-        if (!window.isMinimized)
+        if (!window.state.isMinimized)
             application->minimizedByHiding.append(number);
-        window.isMinimized = true;
+        window.state.isMinimized = true;
         if (m_world.focusedWindow == number)
             m_world.focusFrontWindow();
     }
@@ -67,7 +67,7 @@ bool LMFakeApplications::unhide(qint64 processIdentifier) {
         return false;
     for (const quint32 number : std::exchange(application->minimizedByHiding, {})) {
         if (m_world.windows.contains(number))
-            m_world.windows[number].isMinimized = false;
+            m_world.windows[number].state.isMinimized = false;
     }
     return true;
 }

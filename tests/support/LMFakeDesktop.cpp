@@ -4,8 +4,8 @@
 #include <stdexcept>
 
 LMFakeDesktop::LMFakeDesktop()
-    : m_accessibility(m_world), m_windowServer(m_world), m_screens(m_world),
-      m_applications(m_world) {
+    : m_accessibility(m_world), m_windowServer(m_world), m_windowStates(m_world, m_accessibility),
+      m_screens(m_world), m_applications(m_world) {
     setScreens({QRectF(0, 0, 1440, 900)});
 }
 
@@ -51,6 +51,8 @@ LMElement LMFakeDesktop::addWindow(const QString& bundleIdentifier, LMFakeWindow
         throw std::logic_error("no such application: " + bundleIdentifier.toStdString());
     const bool isLaunch = m_world.windowsOf(*application).isEmpty();
     window.bundleIdentifier = bundleIdentifier;
+    if (!window.state.desktop && !window.state.isOnAllDesktops)
+        window.state.desktop = m_world.currentDesktop;
     const quint32 number = ++m_lastWindowNumber;
     m_world.windows.insert(number, window);
     m_world.stacking.append(number);

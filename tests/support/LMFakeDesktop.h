@@ -7,6 +7,7 @@
 #include "support/LMFakeHotKeys.h"
 #include "support/LMFakeScreens.h"
 #include "support/LMFakeWindowServer.h"
+#include "support/LMFakeWindowStates.h"
 #include "support/LMFakeWorld.h"
 
 /// A desktop in memory. It keeps the contracts of a real one, and a second interface lets tests
@@ -26,6 +27,7 @@ public:
     QString backendName() const override { return QStringLiteral("Fake"); }
     LMFakeAccessibility& accessibility() override { return m_accessibility; }
     LMFakeWindowServer& windowServer() override { return m_windowServer; }
+    LMFakeWindowStates& windowStates() override { return m_windowStates; }
     LMFakeScreens& screens() override { return m_screens; }
     LMFakeApplications& applications() override { return m_applications; }
     LMFakeHotKeys& hotKeys() override { return m_hotKeys; }
@@ -50,7 +52,8 @@ public:
     void removeApplication(const QString& bundleIdentifier);
 
     /// Opens a window of an application that was added, behind all others: windows are listed in
-    /// the order in which they were added. Announces the launch with the first window.
+    /// the order in which they were added. A window without a virtual desktop comes to the current
+    /// one. Announces the launch with the first window.
     LMElement addWindow(const QString& bundleIdentifier, LMFakeWindow window = {});
     /// Valid until the next window is added or removed.
     LMFakeWindow& window(const LMElement& element);
@@ -76,6 +79,7 @@ private:
     LMFakeWorld m_world;
     LMFakeAccessibility m_accessibility;
     LMFakeWindowServer m_windowServer;
+    LMFakeWindowStates m_windowStates;
     LMFakeScreens m_screens;
     LMFakeApplications m_applications;
     LMFakeHotKeys m_hotKeys;

@@ -11,9 +11,9 @@ QList<LMWindowDescription> LMFakeWindowServer::onScreenWindowDescriptions() {
     for (const quint32 number : std::as_const(m_world.stacking)) {
         const LMFakeWindow& window = m_world.windows[number];
         const LMFakeApplication* owner = m_world.application(window.bundleIdentifier);
-        if (!window.isMinimized && owner)
-            descriptions.append(
-                {owner->processIdentifiers.first(), window.frame, number, window.layer});
+        if (m_world.isInSight(window) && owner)
+            descriptions.append({owner->processIdentifiers.first(), window.frame, number,
+                                 std::max(m_world.layerOf(window), 0)});
     }
     std::ranges::stable_sort(descriptions, std::greater(), &LMWindowDescription::layer);
     return descriptions;

@@ -38,6 +38,41 @@ void LMFakeWorld::removeWindow(quint32 number) {
 
 void LMFakeWorld::focusFrontWindow() {
     const auto front = std::ranges::find_if(
-        stacking, [this](quint32 number) { return !windows[number].isMinimized; });
+        stacking, [this](quint32 number) { return isInSight(windows[number]); });
     focusedWindow = front != stacking.end() ? std::optional(*front) : std::nullopt;
+}
+
+bool LMFakeWorld::isInSight(const LMFakeWindow& window) const {
+    const LMWindowState& state = window.state;
+    return !state.isMinimized && (desktops.isEmpty() || state.isOnAllDesktops ||
+                                  state.desktop.value_or(currentDesktop) == currentDesktop);
+}
+
+int LMFakeWorld::layerOf(const LMFakeWindow& window) const {
+    constexpr int floating = 3;
+    if (window.state.isKeptAbove)
+        return floating;
+    return window.state.isKeptBelow ? -1 : window.layer;
+}
+
+void LMFakeWorld::changeState(LMFakeWindow& window, const LMWindowState& state) {
+    const auto fills = [](const LMWindowState& s) { return s.isMaximized() || s.isFullscreen; };
+    if (!fills(window.state))
+        window.normalFrame = window.frame;
+    const auto isOn = [center = window.frame.center()](const LMScreen& screen) {
+        return screen.displayBounds.contains(center);
+    };
+    const auto found = std::ranges::find_if(screens, isOn);
+    const LMScreen& screen = found != screens.end() ? *found : screens.first();
+    window.state = state;
+    if (!window.normalFrame.isNull())
+        window.frame = window.normalFrame;
+    if (state.isMaximizedHorizontally || state.isFullscreen) {
+        window.frame.setLeft(screen.visibleFrame.left());
+        window.frame.setRight(screen.visibleFrame.right());
+    }
+    if (state.isMaximizedVertically || state.isFullscreen) {
+        window.frame.setTop(screen.visibleFrame.top());
+        window.frame.setBottom(screen.visibleFrame.bottom());
+    }
 }

@@ -24,8 +24,11 @@ struct LMFakeWindow {
     bool hasGrowArea = true;
     bool hasDocument = false;
     bool isModal = false;
-    bool isMinimized = false;
-    int layer = 0;
+    LMWindowState state{}; ///< Without names and normalFrame, which the next two tell.
+    /// What it returns to when it is neither maximised nor fullscreen. Null: it stays as it is.
+    QRectF normalFrame{};
+    bool tellsNormalFrame = true;
+    int layer = 0; ///< Unless it is kept above or below.
     bool hasImage = true;
 
     // How it resists.
@@ -58,6 +61,10 @@ struct LMFakeWorld {
     QList<quint32> stacking;               ///< Front to back.
     std::optional<quint32> focusedWindow;
 
+    QStringList desktops{u"One"_qs, u"Two"_qs, u"Three"_qs, u"Four"_qs}; ///< Virtual ones' names.
+    int currentDesktop = 0;
+    LMWindowStateSupport stateSupport{true, true, true, true, true, true, true, true};
+
     QList<LMScreen> screens;
     QList<QStringList> spaces; ///< Identifiers by monitor; empty: one space on each.
     bool screensHaveSeparateSpaces = false;
@@ -79,4 +86,10 @@ struct LMFakeWorld {
     void removeWindow(quint32 number);
     /// Gives the focus to the front window that is on screen.
     void focusFrontWindow();
+
+    /// Neither minimised nor on another virtual desktop.
+    bool isInSight(const LMFakeWindow& window) const;
+    int layerOf(const LMFakeWindow& window) const;
+    /// Gives the window the state and the frame that comes with it.
+    void changeState(LMFakeWindow& window, const LMWindowState& state);
 };

@@ -30,6 +30,10 @@ bool fits(const LMAttributeValue& value, QLatin1String attribute) {
            (attribute == LMAttribute::Size && std::holds_alternative<QSizeF>(value));
 }
 
+LMX11Accessibility::Known knownOf(const LMX11Reading& reading, const LMX11Window& window) {
+    return {window, reading.globalFrame(window), reading.desktopNames};
+}
+
 } // namespace
 
 LMX11Accessibility::LMX11Accessibility(LMX11Connection& connection, LMX11ApplicationIndex& index,
@@ -97,7 +101,7 @@ LMX11Accessibility::readWindow(const LMElement& element) {
         known = *remembered;
     } else {
         const LMX11Reading reading = m_reader.read({windowOf(element)});
-        known = {reading.windows.first(), reading.globalFrame(reading.windows.first())};
+        known = knownOf(reading, reading.windows.first());
     }
     return known.window.exists ? LMPlatformResult<Known>::success(known)
                                : LMPlatformResult<Known>::failure(absence());
@@ -150,7 +154,7 @@ LMPlatformStatus LMX11Accessibility::setAttributeValue(const LMElement& element,
     // Once: who sets the same again has a reason to doubt.
     if (fits(value, attribute) && m_done.take(element.identifier) == value)
         return LMPlatformStatus::success();
-    m_known.remove(element.identifier);
+    forget(element);
     const QList<xcb_window_t> window{windowOf(element)};
     const LMX11Reading reading =
         attribute == LMAttribute::Position ? m_reader.readFrames(window) : m_reader.read(window);
@@ -176,7 +180,7 @@ void LMX11Accessibility::beginReading(const QList<LMElement>& windows) {
         return;
     const LMX11Reading reading = m_reader.read(unknown);
     for (const LMX11Window& window : reading.windows)
-        m_known.insert(window.identifier, {window, reading.globalFrame(window)});
+        m_known.insert(window.identifier, knownOf(reading, window));
 }
 
 void LMX11Accessibility::endReading() {
@@ -203,7 +207,7 @@ void LMX11Accessibility::beginSetting(QLatin1String attribute,
     const QList<bool> done = m_setter.setTogether(reading, values);
     for (qsizetype index = 0; index < values.size(); ++index) {
         const LMX11Window& window = reading.windows[index];
-        m_known.insert(window.identifier, {window, reading.globalFrame(window)});
+        m_known.insert(window.identifier, knownOf(reading, window));
         if (done[index] && isSettable(window, attribute))
             m_done.insert(window.identifier, values[index]);
     }

@@ -45,13 +45,18 @@ public:
     void beginSetting(QLatin1String attribute, const QList<LMElementValue>& changes) override;
     void endSetting() override { endReading(); }
 
-private:
+    /// What a reading tells of a window.
     struct Known {
         LMX11Window window;
         QRectF frame; ///< Global pixels.
+        QStringList desktopNames;
     };
-
+    /// From memory within a reading scope.
     LMPlatformResult<Known> readWindow(const LMElement& element);
+    /// The window has been changed by somebody else.
+    void forget(const LMElement& window) { m_known.remove(window.identifier); }
+
+private:
     LMPlatformResult<LMAttributeValue> applicationValue(const LMElement& element,
                                                         QLatin1String attribute);
     LMPlatformResult<QList<LMElement>> elements(const LMElement& element, QLatin1String attribute);

@@ -45,7 +45,7 @@ private:
 /// How a window presents itself, see LMX11WindowPresence.
 struct LMX11Presentation {
     LMX11WindowType type = LMX11WindowType::Normal;
-    LMX11WindowStates states;
+    LMX11StateFlags states;
     bool isIconic = false; ///< WM_STATE
     uint32_t desktop = 0;  ///< Virtual desktop, or LMX11Window::allDesktops.
 

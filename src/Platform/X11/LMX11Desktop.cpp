@@ -12,13 +12,15 @@
 #include "Platform/X11/LMX11SystemTray.h"
 #include "Platform/X11/LMX11WindowManager.h"
 #include "Platform/X11/LMX11WindowServer.h"
+#include "Platform/X11/LMX11WindowStates.h"
 
 /// In the order in which they are built on each other.
 struct LMX11Desktop::Parts {
     explicit Parts(std::unique_ptr<LMX11Connection> opened)
         : connection(std::move(opened)), desktopEntries(), windowManager(*connection),
           index(*connection, desktopEntries), accessibility(*connection, index, windowManager),
-          windowServer(*connection, index), screens(*connection),
+          windowServer(*connection, index),
+          windowStates(*connection, index, windowManager, accessibility), screens(*connection),
           applications(*connection, index, desktopEntries, windowManager), hotKeys(*connection),
           systemTray(*connection) {}
 
@@ -28,6 +30,7 @@ struct LMX11Desktop::Parts {
     LMX11ApplicationIndex index;
     LMX11Accessibility accessibility;
     LMX11WindowServer windowServer;
+    LMX11WindowStates windowStates;
     LMX11Screens screens;
     LMX11Applications applications;
     LMX11HotKeys hotKeys;
@@ -60,6 +63,10 @@ LMAccessibility& LMX11Desktop::accessibility() {
 
 LMWindowServer& LMX11Desktop::windowServer() {
     return d->windowServer;
+}
+
+LMWindowStates& LMX11Desktop::windowStates() {
+    return d->windowStates;
 }
 
 LMScreens& LMX11Desktop::screens() {

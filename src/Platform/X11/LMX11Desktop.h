@@ -20,6 +20,7 @@ public:
     QString backendName() const override;
     LMAccessibility& accessibility() override;
     LMWindowServer& windowServer() override;
+    LMWindowStates& windowStates() override;
     LMScreens& screens() override;
     LMApplications& applications() override;
     LMHotKeys& hotKeys() override;

@@ -42,7 +42,7 @@ bool LMX11FrameRequest::receive(LMX11Connection& connection, LMX11Window& window
     const auto decorations = readExtents(m_frameExtents.receive(connection));
     const LMX11Property shadow = m_shadow.receive(connection);
     window.states = LMX11ReadWindowStates(m_states.receive(connection), connection.ewmhAtoms());
-    window.desktop = m_desktop.receive(connection).firstWord().value_or(0);
+    window.desktop = m_desktop.receive(connection).firstWord();
     window.exists = geometry && origin;
     if (!window.exists)
         return true;

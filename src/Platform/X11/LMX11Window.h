@@ -5,6 +5,7 @@
 #include <QRect>
 #include <QString>
 
+#include <optional>
 #include <xcb/xcb.h>
 
 /// Where a window stands and what surrounds it; root coordinates, pixels.
@@ -44,13 +45,15 @@ enum class LMX11WindowType {
 };
 
 /// The states that matter here (_NET_WM_STATE).
-struct LMX11WindowStates {
+struct LMX11StateFlags {
     bool isModal = false;
     bool isMaximizedVertically = false;
     bool isMaximizedHorizontally = false;
     bool isFullscreen = false;
     bool isShaded = false;
     bool isAbove = false;
+    bool isBelow = false;
+    bool isSticky = false;
     bool skipsTaskbar = false;
     /// _NET_WM_STATE_HIDDEN of a window that is not shaded: marco and mutter call a shaded window
     /// hidden, too. WM_STATE does not tell, for most managers make windows of other virtual
@@ -77,11 +80,13 @@ struct LMX11Window {
     LMX11Geometry geometry;
     /// The client says how wide its shadow is; none at all, perhaps, while it is maximised.
     bool hasShadowProperty = false;
-    LMX11WindowStates states;
-    quint32 desktop = 0; ///< Virtual desktop; allDesktops for a sticky window.
+    LMX11StateFlags states;
+    std::optional<quint32> desktop; ///< Virtual desktop, or allDesktops; absent without any.
     // What follows is filled in by LMX11WindowReader::read, not by readFrames.
     QString title; ///< Null when the window has none.
     LMX11WindowStructure structure;
 
     static constexpr quint32 allDesktops = 0xffffffff;
+
+    bool isOnAllDesktops() const { return states.isSticky || desktop == allDesktops; }
 };

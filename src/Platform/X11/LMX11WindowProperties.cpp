@@ -32,15 +32,17 @@ LMX11WindowType LMX11ReadWindowType(const LMX11Property& types, bool isTransient
     return isTransient ? LMX11WindowType::Dialog : LMX11WindowType::Normal;
 }
 
-LMX11WindowStates LMX11ReadWindowStates(const LMX11Property& property,
-                                        const xcb_ewmh_connection_t& atoms) {
-    LMX11WindowStates states;
+LMX11StateFlags LMX11ReadWindowStates(const LMX11Property& property,
+                                      const xcb_ewmh_connection_t& atoms) {
+    LMX11StateFlags states;
     states.isModal = property.containsWord(atoms._NET_WM_STATE_MODAL);
     states.isMaximizedVertically = property.containsWord(atoms._NET_WM_STATE_MAXIMIZED_VERT);
     states.isMaximizedHorizontally = property.containsWord(atoms._NET_WM_STATE_MAXIMIZED_HORZ);
     states.isFullscreen = property.containsWord(atoms._NET_WM_STATE_FULLSCREEN);
     states.isShaded = property.containsWord(atoms._NET_WM_STATE_SHADED);
     states.isAbove = property.containsWord(atoms._NET_WM_STATE_ABOVE);
+    states.isBelow = property.containsWord(atoms._NET_WM_STATE_BELOW);
+    states.isSticky = property.containsWord(atoms._NET_WM_STATE_STICKY);
     states.skipsTaskbar = property.containsWord(atoms._NET_WM_STATE_SKIP_TASKBAR);
     states.isMinimized = property.containsWord(atoms._NET_WM_STATE_HIDDEN) && !states.isShaded;
     return states;

@@ -13,5 +13,5 @@ LMX11WindowType LMX11ReadWindowType(const LMX11Property& types, bool isTransient
                                     const xcb_ewmh_connection_t& atoms);
 
 /// _NET_WM_STATE as flags.
-LMX11WindowStates LMX11ReadWindowStates(const LMX11Property& property,
-                                        const xcb_ewmh_connection_t& atoms);
+LMX11StateFlags LMX11ReadWindowStates(const LMX11Property& property,
+                                      const xcb_ewmh_connection_t& atoms);

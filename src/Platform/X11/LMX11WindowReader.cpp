@@ -2,6 +2,7 @@
 #include "Platform/X11/LMX11WindowReader.h"
 
 #include "Platform/X11/LMX11Connection.h"
+#include "Platform/X11/LMX11DesktopsRequest.h"
 #include "Platform/X11/LMX11FrameRequest.h"
 #include "Platform/X11/LMX11StructureRequest.h"
 
@@ -44,9 +45,11 @@ LMX11Reading LMX11WindowReader::readFrames(const QList<xcb_window_t>& identifier
     LMX11CoordinatesRequest coordinates(m_connection);
     const xcb_ewmh_connection_t& atoms = m_connection.ewmhAtoms();
     const LMX11PropertyRequest supported(m_connection, m_connection.root(), atoms._NET_SUPPORTED);
+    const LMX11DesktopsRequest desktops(m_connection);
     const auto requests = requestFrames(m_connection, windows);
     reading.coordinates = coordinates.receive();
     m_tellsExtents = supported.receive(m_connection).containsWord(atoms._NET_FRAME_EXTENTS);
+    reading.desktopNames = desktops.receive(m_connection);
     receiveFrames(requests, windows);
     waitForAnimations(windows);
     return reading;

@@ -7,12 +7,15 @@
 #include "Platform/X11/LMX11Window.h"
 
 #include <QList>
+#include <QStringList>
 
 #include <vector>
 
-/// Windows as they were read together, in the order asked for, and the coordinates of that moment.
+/// Windows as they were read together, in the order asked for, and the coordinates and virtual
+/// desktops of that moment.
 struct LMX11Reading {
     LMX11Coordinates coordinates;
+    QStringList desktopNames; ///< See LMX11DesktopsRequest.
     QList<LMX11Window> windows;
 
     QRectF globalFrame(const LMX11Window& window) const {

@@ -11,7 +11,7 @@
 namespace {
 
 bool isOnDesktop(const LMX11Window& window, quint32 desktop) {
-    return window.desktop == desktop || window.desktop == LMX11Window::allDesktops;
+    return window.desktop.value_or(0) == desktop || window.isOnAllDesktops();
 }
 
 bool isOnScreen(const LMX11Window& window, quint32 desktop) {
