@@ -74,11 +74,11 @@ LMResult<void, LMStoreError> LMStoredWindowsStore::open() {
 std::optional<LMStoreError> LMStoredWindowsStore::openStore() {
     if (!m_model || !m_model->isValid())
         return LMStoreError{LMStoreFailure::ModelMissing,
-                            QStringLiteral("The object model is missing or contradicts itself.")};
+                            LMLocalized("The object model is missing or contradicts itself.")};
     const QString path = m_environment.folders.storedWindowsURL();
     if (path.isNull())
         return LMStoreError{LMStoreFailure::FoldersCannotBeMade,
-                            QStringLiteral("There is no application support directory.")};
+                            LMLocalized("There is no application support directory.")};
     auto store = LMPersistentStore::open(path, *m_model, m_environment.logger);
     if (!store)
         return LMStoreError{LMStoreFailure::StoreCannotBeAdded, store.error()};

@@ -38,7 +38,7 @@ QString LMWorkspace::name() const {
         return m_name;
     const std::size_t count = m_displays.size();
     return LMFormat(LMLocalized("%lu Display%@"),
-                    {QString::number(count), count > 1 ? QStringLiteral("s") : QString()});
+                    {QString::number(count), count > 1 ? LMLocalized("s") : QString()});
 }
 
 void LMWorkspace::setName(const QString& name) {

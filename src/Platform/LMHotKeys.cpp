@@ -9,11 +9,11 @@ QString LMHotKeyRefusalText(LMHotKeyRefusal refusal, const LMShortcut& shortcut)
     };
     switch (refusal) {
     case LMHotKeyRefusal::HeldByAnotherProgram:
-        return text("Another program is using %@.");
+        return text(LMLocalizable("Another program is using %@."));
     case LMHotKeyRefusal::AlreadyInUse:
-        return text("%@ is in use for another hot key.");
+        return text(LMLocalizable("%@ is in use for another hot key."));
     case LMHotKeyRefusal::NoSuchKey:
-        return text("This keyboard has no %@.");
+        return text(LMLocalizable("This keyboard has no %@."));
     case LMHotKeyRefusal::NotAvailable:
         break;
     }

@@ -40,24 +40,37 @@ struct KeyName {
 
 // clang-format off
 constexpr KeyName names[] = {
-    {' ', "Space"}, {0xa0, "No-Break Space"}, {0xff08, "Backspace"}, {0xff09, "Tab"},
-    {0xff0b, "Clear"}, {0xff0d, "Return"}, {0xff13, "Pause"}, {0xff15, "System Request"},
-    {0xff1b, "Escape"}, {0xff27, "Kana"}, {0xff30, "Eisu"}, {0xff50, "Home"}, {0xff51, "Left"},
-    {0xff52, "Up"}, {0xff53, "Right"}, {0xff54, "Down"}, {0xff55, "Page Up"},
-    {0xff56, "Page Down"}, {0xff57, "End"}, {0xff61, "Print"}, {0xff63, "Insert"},
-    {0xff67, "Menu"}, {0xff6a, "Help"}, {0xffff, "Delete"}, {0xff8d, "Keypad Enter"},
-    {0xff95, "Keypad Home"}, {0xff96, "Keypad Left"}, {0xff97, "Keypad Up"},
-    {0xff98, "Keypad Right"}, {0xff99, "Keypad Down"}, {0xff9a, "Keypad Page Up"},
-    {0xff9b, "Keypad Page Down"}, {0xff9c, "Keypad End"}, {0xff9d, "Keypad Begin"},
-    {0xff9e, "Keypad Insert"}, {0xff9f, "Keypad Delete"}, {0x1008ff02, "Brightness Up"},
-    {0x1008ff03, "Brightness Down"}, {0x1008ff11, "Volume Down"}, {0x1008ff12, "Mute"},
-    {0x1008ff13, "Volume Up"}, {0x1008ff14, "Play"}, {0x1008ff15, "Stop"},
-    {0x1008ff16, "Previous Track"}, {0x1008ff17, "Next Track"}, {0x1008ff18, "Home Page"},
-    {0x1008ff19, "Mail"}, {0x1008ff1b, "Search"}, {0x1008ff1d, "Calculator"},
-    {0x1008ff26, "Back"}, {0x1008ff27, "Forward"}, {0x1008ff2a, "Power Off"},
-    {0x1008ff2f, "Sleep"}, {0x1008ff31, "Pause Playing"}, {0x1008ff32, "Media"},
-    {0x1008ff41, "Launch 1"}, {0x1008ff42, "Launch 2"}, {0x1008ff43, "Launch 3"},
-    {0x1008ff44, "Launch 4"}, {0x1008ff59, "Display"}, {0x1008ffb2, "Microphone Mute"},
+    {' ', LMLocalizable("Space")}, {0xa0, LMLocalizable("No-Break Space")},
+    {0xff08, LMLocalizable("Backspace")}, {0xff09, LMLocalizable("Tab")},
+    {0xff0b, LMLocalizable("Clear", "key")}, {0xff0d, LMLocalizable("Return")},
+    {0xff13, LMLocalizable("Pause")}, {0xff15, LMLocalizable("System Request")},
+    {0xff1b, LMLocalizable("Escape")}, {0xff27, LMLocalizable("Kana")},
+    {0xff30, LMLocalizable("Eisu")}, {0xff50, LMLocalizable("Home")},
+    {0xff51, LMLocalizable("Left")}, {0xff52, LMLocalizable("Up")},
+    {0xff53, LMLocalizable("Right")}, {0xff54, LMLocalizable("Down")},
+    {0xff55, LMLocalizable("Page Up")}, {0xff56, LMLocalizable("Page Down")},
+    {0xff57, LMLocalizable("End")}, {0xff61, LMLocalizable("Print")},
+    {0xff63, LMLocalizable("Insert")}, {0xff67, LMLocalizable("Menu")},
+    {0xff6a, LMLocalizable("Help")}, {0xffff, LMLocalizable("Delete", "key")},
+    {0xff8d, LMLocalizable("Keypad Enter")}, {0xff95, LMLocalizable("Keypad Home")},
+    {0xff96, LMLocalizable("Keypad Left")}, {0xff97, LMLocalizable("Keypad Up")},
+    {0xff98, LMLocalizable("Keypad Right")}, {0xff99, LMLocalizable("Keypad Down")},
+    {0xff9a, LMLocalizable("Keypad Page Up")}, {0xff9b, LMLocalizable("Keypad Page Down")},
+    {0xff9c, LMLocalizable("Keypad End")}, {0xff9d, LMLocalizable("Keypad Begin")},
+    {0xff9e, LMLocalizable("Keypad Insert")}, {0xff9f, LMLocalizable("Keypad Delete")},
+    {0x1008ff02, LMLocalizable("Brightness Up")}, {0x1008ff03, LMLocalizable("Brightness Down")},
+    {0x1008ff11, LMLocalizable("Volume Down")}, {0x1008ff12, LMLocalizable("Mute")},
+    {0x1008ff13, LMLocalizable("Volume Up")}, {0x1008ff14, LMLocalizable("Play")},
+    {0x1008ff15, LMLocalizable("Stop")}, {0x1008ff16, LMLocalizable("Previous Track")},
+    {0x1008ff17, LMLocalizable("Next Track")}, {0x1008ff18, LMLocalizable("Home Page")},
+    {0x1008ff19, LMLocalizable("Mail")}, {0x1008ff1b, LMLocalizable("Search")},
+    {0x1008ff1d, LMLocalizable("Calculator")}, {0x1008ff26, LMLocalizable("Back")},
+    {0x1008ff27, LMLocalizable("Forward")}, {0x1008ff2a, LMLocalizable("Power Off")},
+    {0x1008ff2f, LMLocalizable("Sleep")}, {0x1008ff31, LMLocalizable("Pause Playing")},
+    {0x1008ff32, LMLocalizable("Media")}, {0x1008ff41, LMLocalizable("Launch 1")},
+    {0x1008ff42, LMLocalizable("Launch 2")}, {0x1008ff43, LMLocalizable("Launch 3")},
+    {0x1008ff44, LMLocalizable("Launch 4")}, {0x1008ff59, LMLocalizable("Display")},
+    {0x1008ffb2, LMLocalizable("Microphone Mute")},
 };
 // clang-format on
 
@@ -158,7 +171,7 @@ bool LMKeyTable::isFunctionKey(quint32 keysym) {
 QString LMKeyTable::name(quint32 keysym) {
     const auto* named = std::ranges::find(names, keysym, &KeyName::keysym);
     if (named != std::end(names))
-        return LMLocalized(named->name);
+        return LMLocalized(named->name, "key");
     if (isIn(keysym, firstFunctionKey, lastFunctionKey))
         return QStringLiteral("F%1").arg(keysym - firstFunctionKey + 1);
     if (isIn(keysym, 0xffaa, 0xffb9) || keysym == 0xffbd) // The low bits are ASCII.

@@ -54,7 +54,8 @@ PathResult LMFolders::findDirectory(LMSearchPathDirectory directory, LMSearchPat
     };
     // Only the user's own directory is ever written to; the others are the system's.
     if (m_applicationSupportBase.isEmpty() || domain != LMSearchPathDomain::User)
-        return failure(LMDirectoryError::NoPathFound, "No path found for directory in domain.");
+        return failure(LMDirectoryError::NoPathFound,
+                       LMLocalizable("No path found for directory in domain."));
 
     const QString path =
         QDir::cleanPath(expandingTilde(m_applicationSupportBase) + u'/' + appendPathComponent);
@@ -63,7 +64,7 @@ PathResult LMFolders::findDirectory(LMSearchPathDirectory directory, LMSearchPat
         return PathResult::success(path);
     if (info.exists()) {
         return failure(LMDirectoryError::FileExists,
-                       "File exists at requested directory location.");
+                       LMLocalizable("File exists at requested directory location."));
     }
     if (createIfNotFound) {
         if (const auto created = LMCreateDirectory(path); !created) {

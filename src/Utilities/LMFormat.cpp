@@ -67,6 +67,6 @@ QString LMFormat(const QString& format, const QStringList& arguments) {
     return result += rest;
 }
 
-QString LMLocalized(const char* key) {
-    return QCoreApplication::translate("Rook", key);
+QString LMLocalized(const char* key, const char* sense) {
+    return QCoreApplication::translate("Rook", key, sense);
 }

@@ -12,5 +12,12 @@
 /// without an argument stays as it stands, and so does anything else after a percent sign.
 QString LMFormat(const QString& format, const QStringList& arguments);
 
-/// The text for the user's language. The English text itself, in UTF-8, is the key.
-QString LMLocalized(const char* key);
+/// The text for the user's language. The English text itself, in UTF-8, is the key; the sense tells
+/// texts apart that are the same in English only.
+QString LMLocalized(const char* key, const char* sense = nullptr);
+
+/// Marks a text that reaches LMLocalized through a variable: the catalogues are made from the
+/// literal arguments of both.
+constexpr const char* LMLocalizable(const char* key, const char* /*sense*/ = nullptr) {
+    return key;
+}

@@ -3,6 +3,7 @@
 #include "Model/Store/LMObjectModel.h"
 #include "Model/Store/LMPersistentStore.h"
 #include "Platform/LMEnvironment.h"
+#include "Utilities/LMFormat.h"
 
 bool LMObjectContext::hasChanges() const {
     return !changesToWrite().isEmpty();
@@ -27,7 +28,7 @@ LMStoreChanges LMObjectContext::changesToWrite() const {
 LMResult<void, QString> LMObjectContext::save() {
     using Result = LMResult<void, QString>;
     if (!m_store)
-        return Result::failure(QStringLiteral("There is no store to save to."));
+        return Result::failure(LMLocalized("There is no store to save to."));
     if (m_loadFailure)
         return Result::failure(*m_loadFailure);
     auto written = writeChanges();

@@ -6,6 +6,7 @@
 #include "Model/Store/LMStoreFile.h"
 #include "Model/Store/LMStoreSchema.h"
 #include "Utilities/LMBaseDirectories.h"
+#include "Utilities/LMFormat.h"
 #include "Utilities/LMLogger.h"
 
 #include <QFile>
@@ -30,7 +31,8 @@ constexpr int busyTimeoutMilliseconds = 2000;
 
 QString errorText(const QString& path, const SQLite::Exception& exception) {
     if (exception.getExtendedErrorCode() == SQLITE_READONLY_DBMOVED)
-        return path + QStringLiteral(": the file was moved or replaced while Rook was using it");
+        return LMFormat(LMLocalized("%@: the file was moved or replaced while Rook was using it"),
+                        {path});
     return QStringLiteral("%1: %2 (%3)")
         .arg(path, QString::fromUtf8(exception.what()))
         .arg(exception.getExtendedErrorCode());

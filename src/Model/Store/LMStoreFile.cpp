@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "Model/Store/LMStoreFile.h"
 
+#include "Utilities/LMFormat.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QtEndian>
@@ -57,17 +59,16 @@ Inspection inspectContent(const QString& path, qint64 size, int knownVersion) {
         return refusal(path, file.errorString());
     const QByteArray header = file.read(headerSize);
     if (header.size() < headerSize || !header.startsWith(magic))
-        return refusal(path, QStringLiteral("not a store file"));
+        return refusal(path, LMLocalized("not a store file"));
     if (headerNumber(header, applicationIDOffset) != LMStoreApplicationID)
-        return refusal(path, QStringLiteral("a database of another program"));
+        return refusal(path, LMLocalized("a database of another program"));
     const qint32 version = headerNumber(header, userVersionOffset);
     if (version > knownVersion)
-        return refusal(path, QStringLiteral("written by a newer version of Rook (store version %1, "
-                                            "known are versions up to %2)")
-                                 .arg(version)
-                                 .arg(knownVersion));
+        return refusal(path, LMFormat(LMLocalized("written by a newer version of Rook (store "
+                                                  "version %@, known are versions up to %@)"),
+                                      {QString::number(version), QString::number(knownVersion)}));
     if (!isWholePages(header, size) && !hasJournal(path))
-        return refusal(path, QStringLiteral("the file is cut short"));
+        return refusal(path, LMLocalized("the file is cut short"));
     return Inspection::success(LMStoreFileKind::Store);
 }
 
@@ -79,15 +80,15 @@ LMResult<LMStoreFileKind, QString> LMInspectStoreFile(const QString& path, int k
     const QFileInfo folder(file.exists() ? QFileInfo(file.canonicalFilePath()).path()
                                          : file.path());
     if (!folder.isDir())
-        return refusal(folder.filePath(), QStringLiteral("no such folder"));
+        return refusal(folder.filePath(), LMLocalized("no such folder"));
     if (!isWritable(folder))
-        return refusal(folder.filePath(), QStringLiteral("the folder is not writable"));
+        return refusal(folder.filePath(), LMLocalized("the folder is not writable"));
     if (!file.exists())
         return Inspection::success(LMStoreFileKind::Missing);
     if (!file.isFile())
-        return refusal(path, QStringLiteral("not a file"));
+        return refusal(path, LMLocalized("not a file"));
     if (!isWritable(file))
-        return refusal(path, QStringLiteral("the file is not writable"));
+        return refusal(path, LMLocalized("the file is not writable"));
     if (file.size() == 0)
         return Inspection::success(LMStoreFileKind::Empty);
     return inspectContent(path, file.size(), knownVersion);
@@ -99,7 +100,7 @@ LMResult<LMFolderLock, QString> LMFolderLock::lock(const QString& folder) {
         ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     LMFolderLock lock(descriptor);
     if (descriptor >= 0 && ::flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
-        return Result::failure(folder + QStringLiteral(": in use by another process"));
+        return Result::failure(LMFormat(LMLocalized("%@: in use by another process"), {folder}));
     return Result::success(std::move(lock));
 }
 

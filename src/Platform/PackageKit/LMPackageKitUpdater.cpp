@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/PackageKit/LMPackageKitUpdater.h"
 
+#include "Utilities/LMFormat.h"
 #include "Utilities/LMLogger.h"
 
 #include <QDBusError>
@@ -37,7 +38,7 @@ LMPackageKitUpdater::LMPackageKitUpdater(QString packageName, std::function<QDBu
     m_deadline.setSingleShot(true);
     m_deadline.setInterval(2min);
     connect(&m_deadline, &QTimer::timeout, this,
-            [this] { finish(QStringLiteral("PackageKit does not answer")); });
+            [this] { finish(LMLocalized("PackageKit does not answer.")); });
 }
 
 void LMPackageKitUpdater::checkForUpdatesInBackground() {

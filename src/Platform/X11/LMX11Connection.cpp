@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/X11/LMX11Connection.h"
 
+#include "Utilities/LMFormat.h"
 #include "Utilities/LMLogger.h"
 
 #include <QAbstractEventDispatcher>
@@ -38,7 +39,7 @@ LMX11Connection::~LMX11Connection() {
 
 bool LMX11Connection::setUp(QString* reason) {
     if (xcb_connection_has_error(xcb()) != 0) {
-        *reason = QStringLiteral("The X server does not answer.");
+        *reason = LMLocalized("The X server does not answer.");
         return false;
     }
     xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(xcb()));
@@ -52,7 +53,7 @@ bool LMX11Connection::setUp(QString* reason) {
     xcb_intern_atom_cookie_t* cookies = xcb_ewmh_init_atoms(xcb(), &m_ewmh);
     m_atoms = LMInternX11Atoms(xcb());
     if (cookies == nullptr || xcb_ewmh_init_atoms_replies(&m_ewmh, cookies, nullptr) == 0) {
-        *reason = QStringLiteral("The X server refused to intern atoms.");
+        *reason = LMLocalized("The X server refused to intern atoms.");
         return false;
     }
     queryExtensions();
@@ -127,9 +128,7 @@ bool LMX11Connection::isConnected() {
                    {QString::number(error)});
     QMetaObject::invokeMethod(
         this,
-        [this] {
-            Q_EMIT connectionLost(QStringLiteral("The connection to the X server is lost."));
-        },
+        [this] { Q_EMIT connectionLost(LMLocalized("The connection to the X server is lost.")); },
         Qt::QueuedConnection);
     return false;
 }

@@ -13,6 +13,7 @@
 #include "Platform/X11/LMX11WindowManager.h"
 #include "Platform/X11/LMX11WindowServer.h"
 #include "Platform/X11/LMX11WindowStates.h"
+#include "Utilities/LMFormat.h"
 
 /// In the order in which they are built on each other.
 struct LMX11Desktop::Parts {
@@ -114,19 +115,19 @@ bool isX11Session(const QProcessEnvironment& environment, QString* reason) {
     };
     const QString sessionType = environment.value(QStringLiteral("XDG_SESSION_TYPE"));
     if (has("WAYLAND_DISPLAY") || sessionType == QStringLiteral("wayland")) {
-        *reason = QStringLiteral("Wayland sessions are not supported yet: most windows are out of "
-                                 "reach there. Log in to an X11 session.");
+        *reason = LMLocalized("Wayland sessions are not supported yet: most windows are out of "
+                              "reach there. Log in to an X11 session.");
         return false;
     }
     if (!has("DISPLAY")) {
-        *reason = QStringLiteral("There is no X server to connect to: DISPLAY is not set.");
+        *reason = LMLocalized("There is no X server to connect to: DISPLAY is not set.");
         return false;
     }
     xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
     const bool answers = xcb_connection_has_error(connection) == 0;
     xcb_disconnect(connection);
     if (!answers)
-        *reason = QStringLiteral("The X server does not answer.");
+        *reason = LMLocalized("The X server does not answer.");
     return answers;
 }
 

@@ -2,6 +2,7 @@
 #include "Platform/X11/LMX11WindowManager.h"
 
 #include "Platform/X11/LMX11Properties.h"
+#include "Utilities/LMFormat.h"
 
 #include <algorithm>
 #include <chrono>
@@ -56,9 +57,9 @@ QString LMX11WindowManager::name() {
 LMPermission LMX11WindowManager::checkPermission() {
     LMPermission permission;
     if (!m_connection.isConnected())
-        permission.missing = {QStringLiteral("The X server does not answer.")};
+        permission.missing = {LMLocalized("The X server does not answer.")};
     else if (!isRunning())
-        permission.missing = {QStringLiteral("No window manager is running.")};
+        permission.missing = {LMLocalized("No window manager is running.")};
     else
         permission.missing = missingProtocols();
     permission.isTrusted = permission.missing.isEmpty();
@@ -79,8 +80,8 @@ QStringList LMX11WindowManager::missingProtocols() {
     QStringList missing;
     for (const auto& [atom, name] : needed) {
         if (!supported.containsWord(atom))
-            missing.append(
-                QStringLiteral("The window manager does not support %1.").arg(QLatin1String(name)));
+            missing.append(LMFormat(LMLocalized("The window manager does not support %@."),
+                                    {QLatin1String(name)}));
     }
     return missing;
 }

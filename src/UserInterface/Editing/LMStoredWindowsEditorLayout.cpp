@@ -180,12 +180,14 @@ QPushButton* LMStoredWindowsEditorWindow::makeMoveButton(const char* text, Qt::K
 }
 
 void LMStoredWindowsEditorWindow::makeButtons(QUndoStack& undoStack) {
-    m_removeApplicationButton =
-        makeRemoveButton("&Remove", "Remove Application", m_applicationsTableView);
-    m_removeWindowButton = makeRemoveButton("R&emove", "Remove Window", m_windowsTableView);
-    m_removeActionButton = makeRemoveButton("Re&move", "Remove Action", m_actionsTableView);
-    m_moveUpButton = makeMoveButton("Move &Up", Qt::Key_Up, -1);
-    m_moveDownButton = makeMoveButton("Move &Down", Qt::Key_Down, 1);
+    m_removeApplicationButton = makeRemoveButton(
+        LMLocalizable("&Remove"), LMLocalizable("Remove Application"), m_applicationsTableView);
+    m_removeWindowButton = makeRemoveButton(LMLocalizable("R&emove"),
+                                            LMLocalizable("Remove Window"), m_windowsTableView);
+    m_removeActionButton = makeRemoveButton(LMLocalizable("Re&move"),
+                                            LMLocalizable("Remove Action"), m_actionsTableView);
+    m_moveUpButton = makeMoveButton(LMLocalizable("Move &Up"), Qt::Key_Up, -1);
+    m_moveDownButton = makeMoveButton(LMLocalizable("Move &Down"), Qt::Key_Down, 1);
 
     m_addActionButton = new QPushButton(LMLocalized("&Add"), this);
     m_addActionButton->setAccessibleName(LMLocalized("Add Action"));
