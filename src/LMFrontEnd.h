@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Controller/LMUserInterface.h"
+#include "Utilities/LMTranslations.h"
 
 #include <QCoreApplication>
 
@@ -15,8 +16,8 @@ class LMStoredWindowsStore;
 class LMSystemClock;
 struct LMEnvironment;
 
-/// The application object and the user interface: what differs between a build with widgets
-/// (LMWidgetFrontEnd.cpp) and one without (LMWindowlessFrontEnd.cpp).
+/// The application object, the texts in the user's language and the user interface: what differs
+/// between a build with widgets (LMWidgetFrontEnd.cpp) and one without (LMWindowlessFrontEnd.cpp).
 class LMFrontEnd {
 public:
     /// Makes the application object, for windows or without them. A build without widgets never
@@ -43,5 +44,6 @@ private:
     std::array<std::string, 2> m_platformOption{"-platform", "xcb"};
     std::vector<char*> m_arguments;
     std::unique_ptr<QCoreApplication> m_application;
+    std::unique_ptr<LMTranslations> m_translations;
     bool m_showsWindows = false;
 };

@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QLocale>
 #include <QSessionManager>
 
 #include <malloc.h>
@@ -49,6 +50,16 @@ std::unique_ptr<QCoreApplication> makeApplication(int& argumentCount, char** arg
     return application;
 }
 
+/// Windows stand the way the texts in them are read.
+std::unique_ptr<LMTranslations> loadTranslations(bool showsWindows) {
+    using Scope = LMTranslations::Scope;
+    auto translations =
+        std::make_unique<LMTranslations>(showsWindows ? Scope::ProgramAndToolkit : Scope::Program);
+    if (showsWindows && QLocale(translations->language()).textDirection() == Qt::RightToLeft)
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    return translations;
+}
+
 LMBundleInformation bundleInformation() {
     return {QStringLiteral("Rook"), QStringLiteral(":/rook/Rook-256.png"),
             QCoreApplication::applicationVersion(), QStringLiteral(ROOK_BUILD)};
@@ -67,6 +78,7 @@ LMFrontEnd::LMFrontEnd(int argc, char** argv, bool showsWindows)
     m_arguments.push_back(nullptr);
     returnLargeBlocksWhenFreed();
     m_application = makeApplication(m_argumentCount, m_arguments.data(), showsWindows);
+    m_translations = loadTranslations(showsWindows);
 }
 
 LMFrontEnd::~LMFrontEnd() = default;

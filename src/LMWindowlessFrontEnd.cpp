@@ -6,7 +6,8 @@
 
 LMFrontEnd::LMFrontEnd(int argc, char** argv, bool)
     : m_argumentCount(argc), m_arguments(argv, argv + argc + 1),
-      m_application(std::make_unique<QCoreApplication>(m_argumentCount, m_arguments.data())) {}
+      m_application(std::make_unique<QCoreApplication>(m_argumentCount, m_arguments.data())),
+      m_translations(std::make_unique<LMTranslations>(LMTranslations::Scope::Program)) {}
 
 LMFrontEnd::~LMFrontEnd() = default;
 

@@ -19,6 +19,7 @@
 #include "Utilities/LMFormat.h"
 #include "Utilities/LMLogger.h"
 #include "Utilities/LMNotificationCenter.h"
+#include "Utilities/LMTranslations.h"
 #include "Utilities/LMUserDefaults.h"
 
 #include <QDBusConnection>
@@ -54,7 +55,7 @@ int handOver(const QDBusConnection& bus) {
                                             QStringLiteral("org.rook.Rook1"),
                                             QStringLiteral("Activate")),
              QDBus::Block, Milliseconds);
-    std::fputs("rook: Rook is running already\n", stderr);
+    complain(LMLocalized("Rook is running already"));
     return LMExitCode::Done;
 }
 
@@ -153,14 +154,14 @@ int main(int argc, char* argv[]) {
     QCoreApplication::setApplicationName(QStringLiteral("rook"));
     QCoreApplication::setApplicationVersion(QStringLiteral(ROOK_VERSION));
     const LMInvocation invocation = LMParseCommandLine(argc, argv);
-    if (invocation.kind == LMInvocation::Kind::Exit)
-        return invocation.exitCode;
-
     if (invocation.kind == LMInvocation::Kind::Resident) {
         LMUnixSignals signals; // Before any thread is made, so that all of them inherit the mask.
         LMFrontEnd frontEnd(argc, argv, canShowWindows(invocation));
         return runResident(frontEnd, signals, invocation);
     }
     const QCoreApplication application(argc, argv);
+    const LMTranslations translations(LMTranslations::Scope::Program);
+    if (invocation.kind == LMInvocation::Kind::Explain)
+        return LMExplainCommandLine(argc, argv);
     return LMClient(QDBusConnection::sessionBus(), stdout, stderr).run(invocation);
 }

@@ -11,11 +11,10 @@ struct LMInvocation {
         Command,  ///< Ask the resident process to do something; answers a boolean.
         Report,   ///< Ask it for a report; answers JSON.
         Quit,     ///< Ask it to end, and wait until it has.
-        Exit,     ///< Nothing more to do: help, version or a usage error was printed.
+        Explain,  ///< Nothing to do but to print help, version or what is wrong.
     };
 
     Kind kind = Kind::Resident;
-    int exitCode = 0;        ///< With Kind::Exit.
     bool isHeadless = false; ///< With Kind::Resident: never a tray or a window.
     bool isVerbose = false;  ///< With Kind::Resident: debug messages too.
     bool wantsJson = false;  ///< With Kind::Report: the report itself instead of a table.
@@ -31,6 +30,10 @@ inline constexpr int Usage = 2;      ///< The command line makes no sense.
 inline constexpr int NotRunning = 3; ///< There is no resident process.
 } // namespace LMExitCode
 
-/// Understands the arguments. Prints help, version and usage errors itself; needs neither a display
+/// Understands the arguments and prints nothing. Needs neither an application object nor a display
 /// nor a bus.
 LMInvocation LMParseCommandLine(int argc, const char* const* argv);
+
+/// For arguments that ask for an explanation or need one: prints it in the user's language, help
+/// and version to standard output, complaints to standard error. Answers the exit code.
+int LMExplainCommandLine(int argc, const char* const* argv);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "CommandLine/LMInvocation.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <vector>
@@ -14,12 +15,22 @@ using Arguments = std::vector<const char*>;
 
 LMInvocation parse(Arguments arguments) {
     arguments.insert(arguments.begin(), "rook");
+    return LMParseCommandLine(int(arguments.size()), arguments.data());
+}
+
+struct Explanation {
+    int exitCode;
+    std::string output;
+    std::string errors;
+};
+
+Explanation explain(Arguments arguments) {
+    arguments.insert(arguments.begin(), "rook");
     testing::internal::CaptureStdout();
     testing::internal::CaptureStderr();
-    LMInvocation invocation = LMParseCommandLine(int(arguments.size()), arguments.data());
-    testing::internal::GetCapturedStdout();
-    testing::internal::GetCapturedStderr();
-    return invocation;
+    const int exitCode = LMExplainCommandLine(int(arguments.size()), arguments.data());
+    return {exitCode, testing::internal::GetCapturedStdout(),
+            testing::internal::GetCapturedStderr()};
 }
 
 TEST(Invocation, NamesTheMethodAndItsArguments) {
@@ -56,22 +67,29 @@ TEST(Invocation, StartsTheResidentProcessWithoutCommand) {
     EXPECT_TRUE(parse({"--verbose"}).isVerbose);
 }
 
-TEST(Invocation, RefusesWhatMakesNoSense) {
-    const std::pair<Arguments, int> rows[] = {
-        {{"restore"}, LMExitCode::Usage},
-        {{"restore-all", "--overwrite"}, LMExitCode::Usage},
-        {{"store-all", "xterm"}, LMExitCode::Usage},
-        {{"store-all", "--ask", "--overwrite"}, LMExitCode::Usage},
-        {{"status", "--yaml"}, LMExitCode::Usage},
-        {{"restore-app", "a", "b"}, LMExitCode::Usage},
-        {{"--jsn"}, LMExitCode::Usage},
-        {{"restore-all", "store-all"}, LMExitCode::Usage},
-        {{"--help"}, LMExitCode::Done},
-        {{"--version"}, LMExitCode::Done},
+TEST(Invocation, ExplainsWhatMakesNoSense) {
+    const std::tuple<Arguments, int, const char*> rows[] = {
+        {{"restore"}, LMExitCode::Usage, "rook: not expected: restore\n"},
+        {{"restore-all", "--overwrite"}, LMExitCode::Usage, "not expected: --overwrite\n"},
+        {{"store-all", "xterm"}, LMExitCode::Usage, "not expected: xterm\n"},
+        {{"store-all", "--ask", "--overwrite"},
+         LMExitCode::Usage,
+         "not both: --overwrite, --ask\n"},
+        {{"status", "--yaml"}, LMExitCode::Usage, "not expected: --yaml\n"},
+        {{"restore-app", "a", "b"}, LMExitCode::Usage, "not expected: b\n"},
+        {{"--jsn"}, LMExitCode::Usage, "not expected: --jsn\n"},
+        {{"restore-all", "store-all"}, LMExitCode::Usage, "not expected: store-all\n"},
+        {{"--help"}, LMExitCode::Done, "restore-all "},
+        {{"plan", "--help"}, LMExitCode::Done, "--json "},
+        {{"--version"}, LMExitCode::Done, "rook "},
     };
-    for (const auto& [arguments, exitCode] : rows) {
-        EXPECT_EQ(parse(arguments).kind, Kind::Exit) << arguments.front();
-        EXPECT_EQ(parse(arguments).exitCode, exitCode) << arguments.front();
+    for (const auto& [arguments, exitCode, text] : rows) {
+        EXPECT_EQ(parse(arguments).kind, Kind::Explain) << text;
+        const Explanation explanation = explain(arguments);
+        EXPECT_EQ(explanation.exitCode, exitCode) << text;
+        const bool isHelp = exitCode == LMExitCode::Done;
+        EXPECT_THAT(isHelp ? explanation.output : explanation.errors, testing::HasSubstr(text));
+        EXPECT_EQ(isHelp ? explanation.errors : explanation.output, "") << text;
     }
 }
 
