@@ -8,6 +8,7 @@
 #include <QTextBoundaryFinder>
 
 #include <algorithm>
+#include <cwchar>
 
 namespace {
 
@@ -154,6 +155,17 @@ QString planText(const QJsonObject& report) {
     return LMTables::table(rows);
 }
 
+/// How many columns of a terminal the text takes: signs of East Asia take two, marks on a letter
+/// none.
+qsizetype columns(const QString& text) {
+    qsizetype result = 0;
+    for (const char32_t character : text.toUcs4()) {
+        const int width = wcwidth(wchar_t(character));
+        result += width < 0 ? 1 : width; // Unknown to the locale.
+    }
+    return result;
+}
+
 bool isUnsafe(char32_t character) {
     switch (QChar::category(character)) {
     case QChar::Other_Control:
@@ -201,13 +213,13 @@ QString LMTables::table(const QList<QStringList>& rows) {
     for (const QStringList& row : rows) {
         widths.resize(std::max(widths.size(), row.size()));
         for (qsizetype column = 0; column < row.size(); ++column)
-            widths[column] = std::max(widths[column], row[column].size());
+            widths[column] = std::max(widths[column], columns(row[column]));
     }
     QStringList lines;
     for (const QStringList& row : rows) {
         QString line;
         for (qsizetype column = 0; column < row.size(); ++column)
-            line += row[column].leftJustified(widths[column] + 2);
+            line += row[column] + QString(widths[column] + 2 - columns(row[column]), u' ');
         lines.append(line.trimmed());
     }
     return lines.join(QLatin1Char('\n'));

@@ -15,7 +15,8 @@ QString forReport(const QString& method, const QJsonObject& report);
 /// One entry of the status report's activity: what, and from when to when.
 QString activity(const QJsonObject& entry);
 
-/// Columns padded to their widest cell; the first row is the heading.
+/// Columns padded to their widest cell, as a terminal of the current locale shows them; the first
+/// row is the heading.
 QString table(const QList<QStringList>& rows);
 
 /// One line that is safe to print; at most maxLength characters.

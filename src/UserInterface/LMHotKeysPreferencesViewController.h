@@ -2,6 +2,7 @@
 #pragma once
 
 #include "UserInterface/LMPreferencesViewController.h"
+#include "UserInterface/LMPresentableText.h"
 
 #include <QLabel>
 #include <QPointer>
@@ -34,7 +35,7 @@ private:
         QPointer<LMShortcutRecorder> recorder = {};
         QPointer<QLabel> message = {};
 
-        QString title() const { return QString(caption).remove(QLatin1Char('&')); }
+        QString title() const { return LMWithoutMnemonic(caption); }
     };
 
     void addRow(QGridLayout& grid, Row& row);

@@ -16,6 +16,12 @@ bool turnsDirection(QChar character) {
     return (code >= 0x202A && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
 }
 
+/// Translations put them before colons and between quotation marks and words.
+bool isNoBreakSpace(QChar character) {
+    const char16_t code = character.unicode();
+    return code == 0x00A0 || code == 0x202F;
+}
+
 bool isLineBreak(QChar character) {
     const char16_t code = character.unicode();
     return code == '\n' || code == 0x2028 || code == 0x2029;
@@ -50,7 +56,8 @@ QString LMPresentableText(const QString& text, qsizetype mostCharacters, int mos
         if (turnsDirection(character))
             continue;
         const bool breaks = isLineBreak(character) && lines < mostLines;
-        const bool isSpace = character.isSpace() || character.category() == QChar::Other_Control;
+        const bool isSpace = (character.isSpace() && !isNoBreakSpace(character)) ||
+                             character.category() == QChar::Other_Control;
         if (wordLength >= LongestWord && !isSpace && !continuesCharacter(character)) {
             result.append(ZeroWidthSpace);
             wordLength = 0;
@@ -70,6 +77,14 @@ QString LMPresentableLine(const QString& text) {
 
 QString LMEscapedAmpersands(const QString& line) {
     return QString(line).replace(QLatin1Char('&'), QLatin1String("&&"));
+}
+
+QString LMWithoutMnemonic(const QString& text) {
+    QString result = text;
+    const qsizetype bracket = result.indexOf(QLatin1String("(&"));
+    if (bracket >= 0 && result.indexOf(u')', bracket) == bracket + 3)
+        result.remove(bracket, 4);
+    return result.remove(u'&');
 }
 
 QString LMPresentableToolTip(const QString& text) {

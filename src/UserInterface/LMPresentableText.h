@@ -17,5 +17,10 @@ QString LMPresentableLine(const QString& text);
 /// A line as the text of a button or a menu entry, where a single ampersand marks a mnemonic.
 QString LMEscapedAmpersands(const QString& line);
 
-/// The same for a tool tip, which would take markup in it for its own; null for an empty text.
+/// The text of a button or a menu entry as a name: without the mark of the mnemonic, and without
+/// the letter that languages whose own signs are no keys add for it in brackets: "名前(&N)".
+QString LMWithoutMnemonic(const QString& text);
+
+/// Text made presentable in a tool tip, which would take markup in it for its own; null for an
+/// empty text.
 QString LMPresentableToolTip(const QString& text);

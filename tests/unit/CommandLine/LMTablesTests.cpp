@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <clocale>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -27,6 +29,9 @@ TEST(Tables, HostileTextCannotSteerTheTerminal) {
 TEST(Tables, ColumnsAlignAndReportsOfAnyShapeArePrinted) {
     EXPECT_EQ(LMTables::table({{u"A"_s, u"LONG"_s}, {u"wide cell"_s, u"x"_s}}),
               u"A          LONG\nwide cell  x"_s);
+    std::setlocale(LC_CTYPE, "C.UTF-8");
+    EXPECT_EQ(LMTables::table({{u"窓"_s, u"e\u0301"_s, u"x"_s}, {u"wide"_s, u"b"_s, u"y"_s}}),
+              u"窓    e\u0301  x\nwide  b  y"_s);
     const QByteArray plan = R"({"applications":[{"identifier":"xterm","windows":[
         {"title":"a\nb","storedWindow":"shell","score":5,"reasons":["structure","title"],
          "from":{"x":1,"y":2,"width":3,"height":4},"to":{"x":5.5,"y":6,"width":7,"height":8}},

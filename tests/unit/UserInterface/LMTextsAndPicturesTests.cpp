@@ -18,6 +18,7 @@ TEST(PresentableText, TakesOutWhatBreaksALayout) {
         {"direction overrides", u"a\u202Eb\u2067c\u2069d"_qs, u"abcd"_qs},
         {"marks of one place stay", u"a\u200Fb"_qs, u"a\u200Fb"_qs},
         {"controls", u"a\tb\u0007c\r"_qs, u"a b c "_qs},
+        {"no-break spaces stay", u"«\u00A0a\u202F?\u00A0»"_qs, u"«\u00A0a\u202F?\u00A0»"_qs},
         {"two lines at most", u"a\nb\nc\u2029d"_qs, u"a\nb c d"_qs},
         {"long words may break", QString(45, u'x'),
          QString(20, u'x') + QChar(0x200B) + QString(20, u'x') + QChar(0x200B) + QString(5, u'x')},
@@ -34,6 +35,18 @@ TEST(PresentableText, TakesOutWhatBreaksALayout) {
     }
     EXPECT_EQ(LMPresentableLine(u" a\n\nb "_qs + QString(30, u'x')),
               u"a b "_qs + QString(30, u'x'));
+}
+
+TEST(PresentableText, NamesControlsWithoutTheirMnemonics) {
+    const std::pair<QString, QString> rows[] = {
+        {u"Display &Menu"_qs, u"Display Menu"_qs},
+        {u"名前を変更(&R)"_qs, u"名前を変更"_qs},
+        {u"削除(&D)…"_qs, u"削除…"_qs},
+        {u"Open (&with)"_qs, u"Open (with)"_qs},
+        {u"(&"_qs, u"("_qs},
+    };
+    for (const auto& [text, expected] : rows)
+        EXPECT_EQ(LMWithoutMnemonic(text), expected);
 }
 
 /// Edges of the drawing that do not stand on pixels would show as mixed colours.
