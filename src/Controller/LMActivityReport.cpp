@@ -44,7 +44,9 @@ LMActivityFile::~LMActivityFile() {
 }
 
 void LMActivityFile::write() const {
+    // Labels name the user's applications and actions: nobody else's business, whatever the umask.
+    constexpr auto OwnerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
     QFile file(m_path);
-    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate, OwnerOnly))
         file.write(QJsonDocument(LMActivityReport(m_environment.activity)).toJson());
 }

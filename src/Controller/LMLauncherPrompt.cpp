@@ -72,8 +72,11 @@ bool LMHasLauncher(const QString& executable) {
 QString LMWriteFileAtomically(const QString& path, const QByteArray& data) {
     if (const auto made = LMCreateDirectory(QFileInfo(path).path()); !made)
         return QString::fromStdString(made.error().message());
+    // What the desktop starts by itself nobody else may write, whatever the umask.
+    constexpr auto OwnerOnly = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
     QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(data) == data.size() && file.commit())
+    if (file.open(QIODevice::WriteOnly) && file.setPermissions(OwnerOnly) &&
+        file.write(data) == data.size() && file.commit())
         return {};
     return file.errorString();
 }
