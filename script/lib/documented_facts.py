@@ -1,12 +1,15 @@
 # SPDX-License-Identifier: MIT
-"""What Rook leaves on the disk and prints, compared with what the documents say of it: schema, JSON, files."""
+"""What Rook leaves on the disk and prints, compared with what the documents say of it: schema, JSON, files, modes."""
 from __future__ import annotations
 
 import json
+import os
 import re
 import signal
 import sqlite3
 import stat
+import subprocess
+import tempfile
 from collections.abc import Iterator
 from pathlib import Path
 
@@ -173,7 +176,24 @@ def check_files(documents: list[Document], facts: Facts) -> Iterator[Problem]:
         yield "temporary script", f"others may use it: mode {mode}"
 
 
+def check_installed(documents: list[Document], build: Path) -> Iterator[Problem]:
+    """What the documents name below /usr is what an installation puts there."""
+    with tempfile.TemporaryDirectory() as root:
+        installed = subprocess.run(["cmake", "--install", str(build), "--prefix", "/usr"], capture_output=True, text=True,
+                                   env={**os.environ, "DESTDIR": root})
+        if installed.returncode != 0:
+            yield build, f"cannot be installed: {installed.stderr}"
+            return
+        for document in documents:
+            lines = [(block.place, line) for block in document.blocks for line in block.lines]
+            for place, text in [*document.codes, *lines]:
+                for path in re.findall(r"(?<![\w.])/usr/(?:bin|lib|share)/[\w./-]*rook[\w./-]*", text, re.IGNORECASE):
+                    if not Path(root + path).exists():
+                        yield place, f"{path} is not installed"
+
+
 def check_facts(documents: list[Document], binary: Path) -> list[Problem]:
     with Sandbox(binary, umask="000") as sandbox:
         facts = Facts(sandbox)
-        return [problem for check in (check_schema, check_json, check_files) for problem in check(documents, facts)]
+        problems = [problem for check in (check_schema, check_json, check_files) for problem in check(documents, facts)]
+    return problems + list(check_installed(documents, binary.parent.parent))

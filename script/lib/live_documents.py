@@ -85,8 +85,14 @@ class Sandbox:
             self.rook.start()
 
     def activate(self) -> None:
-        """As if the reader had just clicked the last window."""
-        self.desktop.probe.activate(self.windows[-1].identifier)
+        """As if the reader had just clicked the last window. A window of Rook's that comes up late takes the focus
+        again."""
+        window, probe = self.windows[-1].identifier, self.desktop.probe
+
+        def is_active() -> bool:
+            probe.tool("wmctrl", "-i", "-a", hex(window))
+            return probe.active_window() == window
+        wait_until(is_active, "the window to be active", interval=0.2)
 
     def run(self, command: str) -> tuple[int, str]:
         """Status and output of a shell command. What it leaves running must not keep us waiting."""
