@@ -26,7 +26,7 @@ QString geometry(const QJsonValue& frame) {
     const QJsonObject object = frame.toObject();
     if (object.isEmpty())
         return QStringLiteral("-");
-    return LMFormat(QStringLiteral("%@×%@ at %@,%@"),
+    return LMFormat(LMLocalized("%@×%@ at %@,%@"),
                     {number(object[u"width"]), number(object[u"height"]), number(object[u"x"]),
                      number(object[u"y"])});
 }

@@ -19,15 +19,16 @@ constexpr int IconEdge = 96;
 constexpr int Margin = 20;
 constexpr QSize TextSize(440, 230);
 
-/// The document of that name, in the first of the formats a resource may have. Of these, Qt shows
-/// HTML; the others appear as the text they are.
+/// The document of that name, in the user's language if there is one, and in the first of the
+/// formats a resource may have. Of these, Qt shows HTML; the others appear as the text they are.
 QTextBrowser* documentView(const QString& name) {
     auto* view = new QTextBrowser;
     view->setObjectName(name);
     view->setOpenExternalLinks(true);
     view->setMinimumSize(TextSize);
-    for (const char* extension : {"html", "rtf", "rtfd"}) {
-        QFile file(QLatin1String(":/rook/") + name + QLatin1Char('.') + QLatin1String(extension));
+    const QString translated = u'_' + LMLocalized("en", "code of this language") + u".html"_qs;
+    for (const QString& ending : {translated, u".html"_qs, u".rtf"_qs, u".rtfd"_qs}) {
+        QFile file(QLatin1String(":/rook/") + name + ending);
         if (!file.open(QIODevice::ReadOnly))
             continue;
         const QString text = QString::fromUtf8(file.readAll());

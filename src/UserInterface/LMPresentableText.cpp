@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "UserInterface/LMPresentableText.h"
 
+#include <QGuiApplication>
+
 namespace {
 
 constexpr qsizetype LongestWord = 20;
@@ -82,9 +84,16 @@ QString LMEscapedAmpersands(const QString& line) {
 QString LMWithoutMnemonic(const QString& text) {
     QString result = text;
     const qsizetype bracket = result.indexOf(QLatin1String("(&"));
-    if (bracket >= 0 && result.indexOf(u')', bracket) == bracket + 3)
-        result.remove(bracket, 4);
+    if (bracket >= 0 && result.indexOf(u')', bracket) == bracket + 3) {
+        const qsizetype space = bracket > 0 && result.at(bracket - 1).isSpace() ? 1 : 0;
+        result.remove(bracket - space, space + 4);
+    }
     return result.remove(u'&');
+}
+
+QString LMLeftToRight(const QString& text) {
+    constexpr QChar Isolate(0x2066), PopIsolate(0x2069);
+    return QGuiApplication::isRightToLeft() ? Isolate + text + PopIsolate : text;
 }
 
 QString LMPresentableToolTip(const QString& text) {

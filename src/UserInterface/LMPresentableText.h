@@ -18,8 +18,12 @@ QString LMPresentableLine(const QString& text);
 QString LMEscapedAmpersands(const QString& line);
 
 /// The text of a button or a menu entry as a name: without the mark of the mnemonic, and without
-/// the letter that languages whose own signs are no keys add for it in brackets: "名前(&N)".
+/// the letter that languages of other scripts add for it in brackets: "名前(&N)".
 QString LMWithoutMnemonic(const QString& text);
+
+/// Numbers and signs that keep their order among letters that are read from right to left, where
+/// "-1" would become "1-".
+QString LMLeftToRight(const QString& text);
 
 /// Text made presentable in a tool tip, which would take markup in it for its own; null for an
 /// empty text.

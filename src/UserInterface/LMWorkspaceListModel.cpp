@@ -14,7 +14,6 @@
 #include "Utilities/LMNotificationCenter.h"
 #include "Utilities/LMRectangle.h"
 
-#include <QGuiApplication>
 #include <QLocale>
 
 #include <algorithm>
@@ -54,12 +53,6 @@ QString number(qsizetype value) {
 
 QString sizeText(const QRectF& bounds) {
     return QStringLiteral("%1×%2").arg(bounds.width(), 0, 'f', 0).arg(bounds.height(), 0, 'f', 0);
-}
-
-/// Numbers with signs between them turn round among letters that are read from right to left.
-QString leftToRight(const QString& text) {
-    constexpr QChar Isolate(0x2066), PopIsolate(0x2069);
-    return QGuiApplication::isRightToLeft() ? Isolate + text + PopIsolate : text;
 }
 
 /// The main display first, the others from left to right.
@@ -182,7 +175,7 @@ QVariant LMWorkspaceListModel::displayValue(const Row& row, int column) {
     case Name:
         return row.name;
     case Displays:
-        return leftToRight(row.displays);
+        return LMLeftToRight(row.displays);
     case Applications:
         return number(row.applicationCount);
     case Windows:

@@ -14,7 +14,7 @@ namespace {
 constexpr QLatin1String WindowFormat{"application/x-rook-stored-window"};
 
 QString frameText(const QRectF& frame) {
-    const auto number = [](qreal value) { return QString::number(value); };
+    const auto number = [](qreal value) { return LMLeftToRight(QString::number(value)); };
     return LMFormat(
         LMLocalized("%@ × %@ at %@, %@"),
         {number(frame.width()), number(frame.height()), number(frame.x()), number(frame.y())});

@@ -141,6 +141,8 @@ void LMStoredWindowPickerWindowView::drawLabel(QPainter& painter) const {
 
     QTextOption option(Qt::AlignCenter);
     option.setWrapMode(QTextOption::NoWrap);
+    // Titles are in the language of their window, not in that of the user.
+    option.setTextDirection(m_labelText.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     const QRectF place = toolkitRect(m_labelRect);
     painter.setPen(Qt::black);
     painter.drawText(place.translated(LabelShadow), m_labelText, option);

@@ -41,7 +41,7 @@ TEST(PresentableText, NamesControlsWithoutTheirMnemonics) {
     const std::pair<QString, QString> rows[] = {
         {u"Display &Menu"_qs, u"Display Menu"_qs},
         {u"名前を変更(&R)"_qs, u"名前を変更"_qs},
-        {u"削除(&D)…"_qs, u"削除…"_qs},
+        {u"حذف (&D)…"_qs, u"حذف…"_qs},
         {u"Open (&with)"_qs, u"Open (with)"_qs},
         {u"(&"_qs, u"("_qs},
     };
