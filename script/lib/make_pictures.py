@@ -29,7 +29,7 @@ DESK = (
     ("xterm", "script/common.sh", Frame(1990, 40, 640, 400)),
     ("gedit", "README.md", Frame(800, 40, 700, 560)),
     ("gedit", "CHANGELOG.md", Frame(2680, 60, 640, 560)),
-    ("pcmanfm", "Pictures", Frame(60, 590, 690, 430)),
+    ("gedit", "docs/matching.md", Frame(60, 590, 690, 430)),
     ("gedit", "CONTRIBUTING.md", Frame(2040, 470, 600, 400)),
     ("gedit", "LICENSE", Frame(1120, 470, 740, 560)),
 )

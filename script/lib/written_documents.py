@@ -150,6 +150,25 @@ def check_methods(documents: Iterable[Document]) -> Iterator[Problem]:
         yield "org.rook.Rook1.xml", f"no document says what {name} does"
 
 
+# What docs/security.md promises not to do, and the one file that is allowed to.
+FORBIDDEN = {
+    r"(?<!QLocale::)\b(system|popen|exec[lv]p?e?|v?fork)\s*\(|\bQProcess\b|QDesktopServices": "starts a program",
+    r"\bposix_spawnp?\s*\(": "starts a program",
+    r"\bQ(Network|Tcp|Udp|Ssl|Local(Server|Socket))\w*|[^:\w]::(socket|connect|bind|listen)\s*\(": "opens a connection",
+}
+ALLOWED = "src/Model/LMShellScript.cpp"
+
+
+def check_promises(_: Iterable[Document]) -> Iterator[Problem]:
+    for name in tracked():
+        if not name.startswith("src/") or not name.endswith((".cpp", ".h")):
+            continue
+        for number, line in enumerate((ROOT / name).read_text().splitlines(), 1):
+            for pattern, what in FORBIDDEN.items():
+                if re.search(pattern, line.split("//")[0]) and not (name == ALLOWED and "posix_spawn" in line):
+                    yield f"{name}:{number}", f"{what}, which docs/security.md says Rook does not do: {line.strip()}"
+
+
 def check_written(documents: list[Document]) -> list[Problem]:
-    checks = (check_links, check_blocks, check_paths, check_names, check_settings, check_methods)
+    checks = (check_links, check_blocks, check_paths, check_names, check_settings, check_methods, check_promises)
     return [problem for check in checks for problem in check(documents)]
