@@ -18,7 +18,9 @@ from live_documents import Sandbox
 from rig.processes import wait_until
 from written_documents import Problem
 
+# Objects that the documents describe once and then name like a type.
 FRAME = {"x", "y", "width", "height"}
+STATE = {"states", "desktop", "desktopName", "normalFrame", "stackingPosition"}
 ACTION = """#!/bin/sh
 cp "$XDG_RUNTIME_DIR"/rook-*.json "$HOME/activity.json"
 stat -c %a "$0" >"$HOME/script-mode"
@@ -112,7 +114,7 @@ def check_schema(documents: list[Document], facts: Facts) -> Iterator[Problem]:
 
 def kind_of(value: object) -> str:
     if isinstance(value, dict):
-        return "frame" if value.keys() == FRAME else "object"
+        return "frame" if value.keys() == FRAME else "state" if value.keys() == STATE else "object"
     if isinstance(value, bool):
         return "Boolean"
     return {list: "list", str: "string", type(None): "null"}.get(type(value), "number")
