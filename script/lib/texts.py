@@ -9,6 +9,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent.parent
 CATALOGUES = ROOT / "resources/translations"
 LANGUAGES = ("ar", "de", "es", "fr", "ja")
 CONTEXT = "Rook"
+TO_ROOT = "../../"  # Catalogues name files from where they lie themselves.
 MARKERS = ("LMLocalized", "LMLocalizable")
 
 TOKEN = re.compile(r"""
@@ -118,7 +119,8 @@ def read_catalogue(path: pathlib.Path) -> list[Message]:
         translation = message.find("translation")
         messages.append(Message(message.findtext("source") or "", message.findtext("comment") or "",
                                 translation.text or "", translation.get("type") is None,
-                                [location.get("filename") for location in message.iterfind("location")]))
+                                [location.get("filename").removeprefix(TO_ROOT)
+                                 for location in message.iterfind("location")]))
     return messages
 
 
@@ -128,7 +130,7 @@ def write_catalogue(path: pathlib.Path, language: str, messages: list[Message]) 
              f"    <name>{CONTEXT}</name>"]
     for message in messages:
         lines.append("    <message>")
-        lines += [f'        <location filename="../../{file}"/>' for file in message.files]
+        lines += [f'        <location filename="{TO_ROOT}{file}"/>' for file in message.files]
         lines.append(f"        <source>{escape(message.source)}</source>")
         if message.sense:
             lines.append(f"        <comment>{escape(message.sense)}</comment>")
