@@ -18,11 +18,11 @@ struct LMWindowState {
     bool isKeptBelow = false;
     bool isOnAllDesktops = false;
     /// The virtual desktop, counted from 0. Absent on all desktops, and where there are none.
-    std::optional<int> desktop;
-    QString desktopName; ///< Empty where desktops have no names.
+    std::optional<int> desktop{};
+    QString desktopName{}; ///< Empty where desktops have no names.
     /// The frame that a maximised or fullscreen window returns to, global pixels like a frame.
     /// Absent for other windows, and where nobody knows it: no standard tells.
-    std::optional<QRectF> normalFrame;
+    std::optional<QRectF> normalFrame{};
 
     bool isMaximized() const { return isMaximizedHorizontally || isMaximizedVertically; }
     bool operator==(const LMWindowState&) const = default;
@@ -44,6 +44,8 @@ struct LMWindowStateSupport {
     bool below = false;
     bool desktops = false; ///< There are virtual desktops, and windows can be sent to them.
     bool stackingOrder = false;
+
+    bool operator==(const LMWindowStateSupport&) const = default;
 };
 
 /// Reads and changes how windows stand: maximised, minimised, pinned, on which virtual desktop, and
@@ -68,10 +70,12 @@ public:
 
     /// Asks for all changes at once, waits for them together and answers one status per change.
     /// Returns when each is visible to the next read, or when the deadline of a single window has
-    /// passed without an answer. What is as wanted already is not asked for again. What the manager
-    /// in force does not support is left out; a desktop that does not exist is no change of
-    /// desktop. normalFrame and desktopName are not set: send a window to the frame between two
-    /// changes of state, and choose the desktop's number by its name.
+    /// passed without an answer. Success says that the manager has answered, not that the window
+    /// took the state: a fixed size cannot be maximised; read it back. What is as wanted already is
+    /// not asked for again. What the manager in force does not support is left out; a desktop that
+    /// does not exist is no change of desktop. normalFrame and desktopName are not set: send a
+    /// window to the frame between two changes of state, and choose the desktop's number by its
+    /// name.
     virtual QList<LMPlatformStatus> setStates(const QList<LMWindowStateChange>& changes) = 0;
 
     /// All windows of all applications that LMAccessibility would list, minimised ones and those of

@@ -31,15 +31,16 @@ bool fits(const LMAttributeValue& value, QLatin1String attribute) {
 }
 
 LMX11Accessibility::Known knownOf(const LMX11Reading& reading, const LMX11Window& window) {
-    return {window, reading.globalFrame(window), reading.desktopNames};
+    return {window, reading.globalFrame(window), reading.coordinates, reading.desktopNames};
 }
 
 } // namespace
 
 LMX11Accessibility::LMX11Accessibility(LMX11Connection& connection, LMX11ApplicationIndex& index,
-                                       LMX11WindowManager& windowManager)
-    : m_connection(connection), m_index(index), m_reader(connection),
-      m_setter(connection, windowManager) {}
+                                       LMX11WindowManager& windowManager,
+                                       LMX11NormalFrames& normalFrames)
+    : m_connection(connection), m_index(index), m_normalFrames(normalFrames), m_reader(connection),
+      m_setter(connection, windowManager, normalFrames) {}
 
 LMPlatformResult<LMElement> LMX11Accessibility::createApplication(qint64 processIdentifier) {
     return LMPlatformResult<LMElement>::success(
@@ -101,6 +102,7 @@ LMX11Accessibility::readWindow(const LMElement& element) {
         known = *remembered;
     } else {
         const LMX11Reading reading = m_reader.read({windowOf(element)});
+        m_normalFrames.note(reading);
         known = knownOf(reading, reading.windows.first());
     }
     return known.window.exists ? LMPlatformResult<Known>::success(known)
@@ -179,6 +181,7 @@ void LMX11Accessibility::beginReading(const QList<LMElement>& windows) {
     if (unknown.isEmpty())
         return;
     const LMX11Reading reading = m_reader.read(unknown);
+    m_normalFrames.note(reading);
     for (const LMX11Window& window : reading.windows)
         m_known.insert(window.identifier, knownOf(reading, window));
 }

@@ -26,7 +26,7 @@ class LMX11Accessibility final : public LMAccessibility {
 public:
     /// All must outlive it.
     LMX11Accessibility(LMX11Connection& connection, LMX11ApplicationIndex& index,
-                       LMX11WindowManager& windowManager);
+                       LMX11WindowManager& windowManager, LMX11NormalFrames& normalFrames);
 
     LMPlatformResult<LMElement> createApplication(qint64 processIdentifier) override;
     LMPlatformResult<LMAttributeValue> copyAttributeValue(const LMElement& element,
@@ -49,6 +49,7 @@ public:
     struct Known {
         LMX11Window window;
         QRectF frame; ///< Global pixels.
+        LMX11Coordinates coordinates;
         QStringList desktopNames;
     };
     /// From memory within a reading scope.
@@ -64,6 +65,7 @@ private:
 
     LMX11Connection& m_connection;
     LMX11ApplicationIndex& m_index;
+    LMX11NormalFrames& m_normalFrames;
     LMX11WindowReader m_reader;
     LMX11FrameSetter m_setter;
     QHash<qint64, Known> m_known;           ///< By window, while reading or setting a batch.

@@ -9,7 +9,6 @@
 #include "Utilities/LMBaseDirectories.h"
 
 #include <algorithm>
-#include <xcb/xcb_icccm.h>
 
 using namespace std::chrono_literals;
 
@@ -19,9 +18,6 @@ namespace {
 constexpr auto longestWait = 500ms;
 /// How long a window manager that has read a request may take to carry it out.
 constexpr auto shortWait = 150ms;
-
-/// Source indication of tools that act for the user (EWMH).
-constexpr uint32_t userSource = 2;
 
 } // namespace
 
@@ -121,10 +117,7 @@ xcb_window_t LMX11Applications::mostRecentlyUsed(const Windows& windows) const {
 }
 
 void LMX11Applications::requestActivation(xcb_window_t window) {
-    // Managers refuse requests without the time of the user's action or call them suspicious.
-    m_connection.sendToWindowManager(
-        window, m_connection.ewmhAtoms()._NET_ACTIVE_WINDOW,
-        {userSource, m_connection.serverTime(), m_index.activeWindow(), 0, 0});
+    m_windowManager.activate(window, m_index.activeWindow());
 }
 
 bool LMX11Applications::activate(qint64 processIdentifier) {
@@ -174,11 +167,7 @@ bool LMX11Applications::hide(qint64 processIdentifier) {
         if (isMinimized(window))
             continue;
         m_hidden[identifier].insert(window);
-        m_connection.sendToWindowManager(window, m_connection.atoms().wmChangeState,
-                                         {XCB_ICCCM_WM_STATE_ICONIC, 0, 0, 0, 0});
-        // openbox takes no notice of the above for windows of other virtual desktops.
-        m_windowManager.changeState(window, LMX11WindowManager::Change::Add,
-                                    m_connection.ewmhAtoms()._NET_WM_STATE_HIDDEN);
+        m_windowManager.minimize(window);
     }
     return waitUntil(
         [this, &identifier] {

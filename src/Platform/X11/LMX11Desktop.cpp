@@ -7,6 +7,7 @@
 #include "Platform/X11/LMX11Applications.h"
 #include "Platform/X11/LMX11Connection.h"
 #include "Platform/X11/LMX11HotKeys.h"
+#include "Platform/X11/LMX11NormalFrames.h"
 #include "Platform/X11/LMX11Screens.h"
 #include "Platform/X11/LMX11Settings.h"
 #include "Platform/X11/LMX11SystemTray.h"
@@ -19,16 +20,18 @@
 struct LMX11Desktop::Parts {
     explicit Parts(std::unique_ptr<LMX11Connection> opened)
         : connection(std::move(opened)), desktopEntries(), windowManager(*connection),
-          index(*connection, desktopEntries), accessibility(*connection, index, windowManager),
+          index(*connection, desktopEntries), normalFrames(*connection, index),
+          accessibility(*connection, index, windowManager, normalFrames),
           windowServer(*connection, index),
-          windowStates(*connection, index, windowManager, accessibility), screens(*connection),
-          applications(*connection, index, desktopEntries, windowManager), hotKeys(*connection),
-          systemTray(*connection) {}
+          windowStates(*connection, index, windowManager, accessibility, normalFrames),
+          screens(*connection), applications(*connection, index, desktopEntries, windowManager),
+          hotKeys(*connection), systemTray(*connection) {}
 
     std::unique_ptr<LMX11Connection> connection;
     LMDesktopEntries desktopEntries;
     LMX11WindowManager windowManager;
     LMX11ApplicationIndex index;
+    LMX11NormalFrames normalFrames;
     LMX11Accessibility accessibility;
     LMX11WindowServer windowServer;
     LMX11WindowStates windowStates;

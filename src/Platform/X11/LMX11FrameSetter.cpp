@@ -69,8 +69,10 @@ bool LMX11FrameSetter::Goal::fillsMonitor(const QList<QRect>& monitors) const {
     });
 }
 
-LMX11FrameSetter::LMX11FrameSetter(LMX11Connection& connection, LMX11WindowManager& windowManager)
-    : m_connection(connection), m_windowManager(windowManager), m_reader(connection),
+LMX11FrameSetter::LMX11FrameSetter(LMX11Connection& connection, LMX11WindowManager& windowManager,
+                                   LMX11NormalFrames& normalFrames)
+    : m_connection(connection), m_windowManager(windowManager), m_normalFrames(normalFrames),
+      m_reader(connection),
       m_subscription(connection.addEventFilter([this](const xcb_generic_event_t& event) {
           if (LMXcbEventType(event) == XCB_DESTROY_NOTIFY)
               m_refusals.remove(reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window);
@@ -82,12 +84,16 @@ LMPlatformStatus LMX11FrameSetter::setPosition(const LMX11Reading& reading,
     const Goal goal = goalFor(position, reading.coordinates, window);
     const LMPlatformStatus status = reach(reading.coordinates, window, goal);
     noteRefusal(window, *goal.origin);
+    m_normalFrames.note(window);
     return status;
 }
 
 LMPlatformStatus LMX11FrameSetter::setSize(const LMX11Reading& reading, const QSizeF& size) {
     LMX11Window window = reading.windows.first();
-    return reach(reading.coordinates, window, goalFor(size, reading.coordinates, window));
+    const LMPlatformStatus status =
+        reach(reading.coordinates, window, goalFor(size, reading.coordinates, window));
+    m_normalFrames.note(window);
+    return status;
 }
 
 LMX11FrameSetter::Goal LMX11FrameSetter::goalFor(const LMAttributeValue& value,
@@ -135,6 +141,8 @@ QList<bool> LMX11FrameSetter::setTogether(LMX11Reading& reading,
         !m_windowManager.waitUntilCaughtUp(after(asked.size() * answerTime), answerTime))
         return QList<bool>(values.size(), false);
     m_reader.refresh(asked);
+    for (const LMX11Window* window : std::as_const(asked))
+        m_normalFrames.note(*window);
     QList<bool> done;
     for (qsizetype index = 0; index < requests.size(); ++index) {
         const LMX11Window& window = reading.windows[index];

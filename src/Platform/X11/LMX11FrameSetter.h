@@ -3,6 +3,7 @@
 
 #include "Platform/LMPlatformTypes.h"
 #include "Platform/X11/LMX11Connection.h"
+#include "Platform/X11/LMX11NormalFrames.h"
 #include "Platform/X11/LMX11WindowManager.h"
 #include "Platform/X11/LMX11WindowReader.h"
 
@@ -37,7 +38,9 @@
 /// since they round sizes, and marco would take a large undecorated window for a fullscreen one.
 class LMX11FrameSetter {
 public:
-    LMX11FrameSetter(LMX11Connection& connection, LMX11WindowManager& windowManager);
+    /// All must outlive it.
+    LMX11FrameSetter(LMX11Connection& connection, LMX11WindowManager& windowManager,
+                     LMX11NormalFrames& normalFrames);
 
     /// Global pixels, the frame the user sees. The reading is that of one window, made just now.
     LMPlatformStatus setPosition(const LMX11Reading& reading, const QPointF& position);
@@ -86,6 +89,7 @@ private:
 
     LMX11Connection& m_connection;
     LMX11WindowManager& m_windowManager;
+    LMX11NormalFrames& m_normalFrames;
     LMX11WindowReader m_reader;
     QHash<xcb_window_t, Refusal> m_refusals;
     Deadline m_deadline; ///< Of the manager's next answer.

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <chrono>
 #include <limits>
+#include <xcb/xcb_icccm.h>
 
 namespace {
 
@@ -98,6 +99,8 @@ bool LMX11WindowManager::waitUntilCaughtUp(LMX11Connection::Deadline deadline,
     xcb_configure_window(m_connection.xcb(), m_connection.ownWindow(), XCB_CONFIG_WINDOW_X, &place);
     bool hasCaughtUp = false;
     const auto isSignOfLife = [&](const xcb_generic_event_t& event) {
+        if (LMXcbEventType(event) == XCB_PROPERTY_NOTIFY)
+            return patience && Clock::now() < deadline;
         if (LMXcbEventType(event) != XCB_CONFIGURE_NOTIFY)
             return false;
         const auto& notify = reinterpret_cast<const xcb_configure_notify_event_t&>(event);
@@ -132,4 +135,44 @@ void LMX11WindowManager::changeState(xcb_window_t window, Change change, xcb_ato
                                      xcb_atom_t second) {
     m_connection.sendToWindowManager(window, m_connection.ewmhAtoms()._NET_WM_STATE,
                                      {static_cast<uint32_t>(change), first, second, userSource, 0});
+}
+
+void LMX11WindowManager::minimize(xcb_window_t window) {
+    m_connection.sendToWindowManager(window, m_connection.atoms().wmChangeState,
+                                     {XCB_ICCCM_WM_STATE_ICONIC, 0, 0, 0, 0});
+    // openbox takes no notice of the above for windows of other virtual desktops.
+    changeState(window, Change::Add, m_connection.ewmhAtoms()._NET_WM_STATE_HIDDEN);
+}
+
+void LMX11WindowManager::requestMap(xcb_window_t window) {
+    xcb_map_request_event_t event{};
+    event.response_type = XCB_MAP_REQUEST;
+    event.parent = m_connection.root();
+    event.window = window;
+    std::array<char, 32> buffer{}; // All events are of this size on the wire.
+    std::copy_n(reinterpret_cast<const char*>(&event), sizeof event, buffer.begin());
+    xcb_send_event(m_connection.xcb(), 0, m_connection.root(), XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                   buffer.data());
+}
+
+void LMX11WindowManager::sendToDesktop(xcb_window_t window, quint32 desktop) {
+    m_connection.sendToWindowManager(window, m_connection.ewmhAtoms()._NET_WM_DESKTOP,
+                                     {desktop, userSource, 0, 0, 0});
+}
+
+void LMX11WindowManager::lower(xcb_window_t window) {
+    constexpr uint32_t below = XCB_STACK_MODE_BELOW;
+    xcb_configure_window(m_connection.xcb(), window, XCB_CONFIG_WINDOW_STACK_MODE, &below);
+}
+
+void LMX11WindowManager::activate(xcb_window_t window, xcb_window_t activeWindow) {
+    // Managers refuse requests without the time of the user's action or call them suspicious.
+    m_connection.sendToWindowManager(window, m_connection.ewmhAtoms()._NET_ACTIVE_WINDOW,
+                                     {userSource, m_connection.serverTime(), activeWindow, 0, 0});
+}
+
+void LMX11WindowManager::showDesktop(quint32 desktop) {
+    m_connection.sendToWindowManager(m_connection.root(),
+                                     m_connection.ewmhAtoms()._NET_CURRENT_DESKTOP,
+                                     {desktop, m_connection.serverTime(), 0, 0, 0});
 }

@@ -38,6 +38,20 @@ public:
     void changeState(xcb_window_t window, Change change, xcb_atom_t first,
                      xcb_atom_t second = XCB_ATOM_NONE);
 
+    void minimize(xcb_window_t window);
+    /// As if the client itself mapped the window, which is how a minimised one comes back (ICCCM
+    /// 4.1.4). Mapping it would not do: mutter leaves minimised windows mapped, and then the server
+    /// passes no request on.
+    void requestMap(xcb_window_t window);
+    /// A virtual desktop's number, or LMX11Window::allDesktops.
+    void sendToDesktop(xcb_window_t window, quint32 desktop);
+    /// To the bottom of its layer. Sibling windows cannot be named, for the server knows the
+    /// manager's frames as siblings only, and few managers support _NET_RESTACK_WINDOW.
+    void lower(xcb_window_t window);
+    /// Asks for the focus in the user's name.
+    void activate(xcb_window_t window, xcb_window_t activeWindow);
+    void showDesktop(quint32 desktop);
+
 private:
     xcb_window_t supportingWindow();
     QStringList missingProtocols();

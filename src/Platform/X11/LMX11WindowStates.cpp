@@ -4,35 +4,40 @@
 #include "Platform/X11/LMX11Accessibility.h"
 #include "Platform/X11/LMX11ApplicationIndex.h"
 #include "Platform/X11/LMX11DesktopsRequest.h"
+#include "Platform/X11/LMX11NormalFrames.h"
+#include "Platform/X11/LMX11Stacking.h"
+#include "Platform/X11/LMX11ViewGuard.h"
 #include "Platform/X11/LMX11WindowManager.h"
+#include "Platform/X11/LMX11WindowState.h"
+
+using namespace std::chrono_literals;
 
 namespace {
 
-LMWindowState stateOf(const LMX11Window& window, const QStringList& desktopNames) {
-    LMWindowState state;
-    state.isMaximizedHorizontally = window.states.isMaximizedHorizontally;
-    state.isMaximizedVertically = window.states.isMaximizedVertically;
-    state.isFullscreen = window.states.isFullscreen;
-    state.isMinimized = window.states.isMinimized;
-    state.isShaded = window.states.isShaded;
-    state.isKeptAbove = window.states.isAbove;
-    state.isKeptBelow = window.states.isBelow;
-    state.isOnAllDesktops = window.isOnAllDesktops();
-    if (window.desktop && !state.isOnAllDesktops &&
-        *window.desktop < quint32(desktopNames.size())) {
-        state.desktop = int(*window.desktop);
-        state.desktopName = desktopNames[*state.desktop];
-    }
-    return state;
+/// What a frozen window manager costs.
+constexpr auto answerTime = 250ms;
+
+LMPlatformStatus failure(LMPlatformError error) {
+    return LMPlatformStatus::failure(error);
+}
+
+LMElement windowElement(xcb_window_t window) {
+    return {LMElement::Kind::Window, window, 0};
+}
+
+int layerOf(const LMX11Window& window) {
+    return int(window.states.isAbove) - int(window.states.isBelow);
 }
 
 } // namespace
 
 LMX11WindowStates::LMX11WindowStates(LMX11Connection& connection, LMX11ApplicationIndex& index,
                                      LMX11WindowManager& windowManager,
-                                     LMX11Accessibility& accessibility)
+                                     LMX11Accessibility& accessibility,
+                                     LMX11NormalFrames& normalFrames)
     : m_connection(connection), m_index(index), m_windowManager(windowManager),
-      m_accessibility(accessibility) {}
+      m_accessibility(accessibility), m_normalFrames(normalFrames), m_reader(connection),
+      m_setter(connection, windowManager) {}
 
 LMWindowStateSupport LMX11WindowStates::windowStateSupport() {
     const xcb_ewmh_connection_t& atoms = m_connection.ewmhAtoms();
@@ -49,7 +54,7 @@ LMWindowStateSupport LMX11WindowStates::windowStateSupport() {
             has(atoms._NET_WM_STATE_ABOVE),
             has(atoms._NET_WM_STATE_BELOW),
             has(atoms._NET_WM_DESKTOP) && hasDesktops,
-            has(atoms._NET_RESTACK_WINDOW)};
+            has(atoms._NET_CLIENT_LIST_STACKING)};
 }
 
 QStringList LMX11WindowStates::desktopNames() {
@@ -61,13 +66,45 @@ LMPlatformResult<LMWindowState> LMX11WindowStates::stateOfWindow(const LMElement
     if (element.kind != LMElement::Kind::Window)
         return Result::failure(LMPlatformError::InvalidElement);
     const auto known = m_accessibility.readWindow(element);
-    return known ? Result::success(stateOf(known->window, known->desktopNames))
-                 : Result::failure(known.error());
+    if (!known)
+        return Result::failure(known.error());
+    LMWindowState state = LMX11StateOfWindow(known->window, known->desktopNames);
+    if (const auto frame = m_normalFrames.frameOf(known->window, known->coordinates.monitors()))
+        state.normalFrame = known->coordinates.globalFromRoot(QRectF(*frame));
+    return Result::success(state);
 }
 
 QList<LMPlatformStatus> LMX11WindowStates::setStates(const QList<LMWindowStateChange>& changes) {
-    return QList<LMPlatformStatus>(changes.size(),
-                                   LMPlatformStatus::failure(LMPlatformError::NotAvailable));
+    const LMWindowStateSupport support = windowStateSupport();
+    QList<xcb_window_t> windows;
+    for (const LMWindowStateChange& change : changes) {
+        m_accessibility.forget(change.window);
+        const bool isWindow = change.window.kind == LMElement::Kind::Window;
+        windows.append(isWindow ? xcb_window_t(change.window.identifier)
+                                : xcb_window_t(XCB_WINDOW_NONE));
+    }
+    LMX11ViewGuard view(m_connection, m_windowManager);
+    LMX11Reading reading = m_reader.readFrames(windows);
+    m_normalFrames.note(reading);
+    QList<LMWindowState> wanted;
+    for (qsizetype index = 0; index < changes.size(); ++index)
+        wanted.append(LMX11PossibleState(
+            changes[index].state, LMX11StateOfWindow(reading.windows[index], reading.desktopNames),
+            support, reading.desktopNames, int(view.currentDesktop())));
+    const bool isAnswered = support != LMWindowStateSupport() && m_setter.reach(reading, wanted);
+    if (isAnswered)
+        view.restore();
+
+    const bool isConnected = m_connection.isConnected();
+    QList<LMPlatformStatus> result;
+    for (const LMX11Window& window : std::as_const(reading.windows)) {
+        if (isConnected && !window.exists)
+            result.append(failure(LMPlatformError::InvalidElement));
+        else
+            result.append(isAnswered ? LMPlatformStatus::success()
+                                     : failure(LMPlatformError::CannotComplete));
+    }
+    return result;
 }
 
 QList<LMElement> LMX11WindowStates::stackingOrder() {
@@ -76,11 +113,36 @@ QList<LMElement> LMX11WindowStates::stackingOrder() {
     for (const xcb_window_t window : m_index.stackingOrder()) {
         const auto presence = m_index.presence(window);
         if (presence && presence->isListed)
-            result.append({LMElement::Kind::Window, window, 0});
+            result.append(windowElement(window));
     }
     return result;
 }
 
-LMPlatformStatus LMX11WindowStates::setStackingOrder(const QList<LMElement>& /*frontToBack*/) {
-    return LMPlatformStatus::failure(LMPlatformError::NotAvailable);
+LMPlatformStatus LMX11WindowStates::setStackingOrder(const QList<LMElement>& frontToBack) {
+    QList<xcb_window_t> windows;
+    for (const LMElement& element : stackingOrder())
+        windows.append(xcb_window_t(element.identifier));
+    QList<LMX11StackedWindow> pile;
+    const LMX11Reading reading = m_reader.readFrames(windows);
+    for (const LMX11Window& window : reading.windows) {
+        if (window.exists)
+            pile.append({window.identifier, layerOf(window),
+                         window.isOnAllDesktops() ? std::nullopt : window.desktop});
+    }
+    QList<xcb_window_t> wanted;
+    for (const LMElement& element : frontToBack)
+        wanted.append(xcb_window_t(element.identifier));
+    const QList<xcb_window_t> toLower = LMX11WindowsToLower(pile, wanted);
+    if (!m_windowManager.isRunning())
+        return failure(LMPlatformError::CannotComplete);
+    if (toLower.isEmpty())
+        return LMPlatformStatus::success();
+    LMX11ViewGuard view(m_connection, m_windowManager);
+    for (const xcb_window_t window : toLower)
+        m_windowManager.lower(window);
+    const auto deadline = std::chrono::steady_clock::now() + toLower.size() * answerTime;
+    if (!m_windowManager.waitUntilCaughtUp(deadline, answerTime))
+        return failure(LMPlatformError::CannotComplete);
+    view.restore();
+    return LMPlatformStatus::success();
 }

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/X11/LMX11Stacking.h"
+
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+using Windows = QList<xcb_window_t>;
+using Set = QSet<xcb_window_t>;
+
+Windows only(Windows windows, const Set& kept) {
+    windows.removeIf([&](xcb_window_t window) { return !kept.contains(window); });
+    return windows;
+}
+
+/// The windows that are seen together: those of one layer on one virtual desktop.
+QList<Set> viewsOf(const QList<LMX11StackedWindow>& pile) {
+    QSet<int> layers;
+    QSet<quint32> desktops;
+    for (const LMX11StackedWindow& each : pile) {
+        layers.insert(each.layer);
+        desktops.insert(each.desktop.value_or(0));
+    }
+    QList<Set> views;
+    for (const int layer : std::as_const(layers)) {
+        for (const quint32 desktop : std::as_const(desktops)) {
+            Set& view = views.emplaceBack();
+            for (const LMX11StackedWindow& each : pile) {
+                if (each.layer == layer && each.desktop.value_or(desktop) == desktop)
+                    view.insert(each.window);
+            }
+        }
+    }
+    return views;
+}
+
+/// Those that cannot stay where they are when the first ones stay. What is lowered already takes
+/// everything behind it along. True when there are more than before.
+bool addToLowered(const Windows& present, const Windows& wanted, Set& lowered) {
+    const qsizetype before = lowered.size();
+    auto kept = wanted.begin();
+    for (auto at = present.begin(); at != present.end() && kept != wanted.end(); ++at) {
+        if (lowered.contains(*kept))
+            break;
+        if (*at == *kept)
+            ++kept;
+    }
+    lowered.unite(Set(kept, wanted.end()));
+    return lowered.size() > before;
+}
+
+} // namespace
+
+Windows LMX11WindowsToLower(const QList<LMX11StackedWindow>& pile, const Windows& wanted) {
+    Windows present;
+    for (const LMX11StackedWindow& each : pile)
+        present.append(each.window);
+    const Set moving = Set(wanted.begin(), wanted.end()) & Set(present.begin(), present.end());
+    Windows moved;
+    for (const xcb_window_t window : only(wanted, moving)) {
+        if (!moved.contains(window))
+            moved.append(window);
+    }
+    const QList<Set> views = viewsOf(pile);
+    if (std::ranges::all_of(views, [&](const Set& view) {
+            return only(only(present, moving), view) == only(moved, view);
+        }))
+        return {};
+
+    // They change places among themselves.
+    Windows order;
+    auto next = moved.constBegin();
+    for (const xcb_window_t window : std::as_const(present))
+        order.append(moving.contains(window) ? *next++ : window);
+    Set lowered;
+    bool hasGrown = true;
+    while (hasGrown) {
+        hasGrown = false;
+        for (const Set& view : views)
+            hasGrown = addToLowered(only(present, view), only(order, view), lowered) || hasGrown;
+    }
+    return only(order, lowered);
+}
