@@ -25,7 +25,15 @@ struct LMContractWindow {
     bool isModal = false;
 };
 
-enum class LMContractState { Fullscreen, Above };
+enum class LMContractState { Fullscreen, Above, Maximized };
+
+/// What the user has in view.
+struct LMContractView {
+    int currentDesktop = 0;
+    LMElement activeWindow;
+
+    bool operator==(const LMContractView&) const = default;
+};
 
 /// What the contract tests need beside the desktop under test: a hand that opens and changes
 /// windows as users and other programs do, and eyes that do not look through the desktop.
@@ -41,7 +49,7 @@ public:
     virtual void setTitle(const LMElement& window, const QString& title) = 0;
     /// Returns when the window is minimised.
     virtual void minimize(const LMElement& window) = 0;
-    virtual void setState(const LMElement& window, LMContractState state) = 0;
+    virtual void setState(const LMElement& window, LMContractState state, bool isSet = true) = 0;
     /// Brings the window to the front and gives it the focus.
     virtual void raise(const LMElement& window) = 0;
     /// The process that owns the window stops answering until the end of the test.
@@ -53,6 +61,9 @@ public:
     /// The frame that the user sees, global pixels.
     virtual QRectF visibleFrame(const LMElement& window) = 0;
     virtual bool isMinimized(const LMElement& window) = 0;
+    /// Without the normal frame and the desktop's name.
+    virtual LMWindowState visibleState(const LMElement& window) = 0;
+    virtual LMContractView view() = 0;
     /// The monitors' rectangles, global pixels, in any order.
     virtual QList<QRectF> monitors() = 0;
 };

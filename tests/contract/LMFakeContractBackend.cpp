@@ -20,12 +20,16 @@ public:
         m_desktop.window(window).state.isMinimized = true;
         m_desktop.world().focusFrontWindow();
     }
-    void setState(const LMElement& element, LMContractState state) override {
+    void setState(const LMElement& element, LMContractState state, bool isSet) override {
         LMFakeWindow& window = m_desktop.window(element);
+        LMWindowState changed = window.state;
         if (state == LMContractState::Above)
-            window.state.isKeptAbove = true;
+            changed.isKeptAbove = isSet;
+        else if (state == LMContractState::Fullscreen)
+            changed.isFullscreen = isSet;
         else
-            window.state.isFullscreen = true;
+            changed.isMaximizedHorizontally = changed.isMaximizedVertically = isSet;
+        m_desktop.world().changeState(window, changed);
     }
     void raise(const LMElement& window) override { m_desktop.focus(window); }
     void freeze(const LMElement& window) override { m_desktop.window(window).neverAnswers = true; }
@@ -33,6 +37,13 @@ public:
     QRectF visibleFrame(const LMElement& window) override { return m_desktop.window(window).frame; }
     bool isMinimized(const LMElement& window) override {
         return m_desktop.window(window).state.isMinimized;
+    }
+    LMWindowState visibleState(const LMElement& window) override {
+        return m_desktop.window(window).state;
+    }
+    LMContractView view() override {
+        const LMFakeWorld& world = m_desktop.world();
+        return {world.currentDesktop, {LMElement::Kind::Window, world.focusedWindow.value_or(0)}};
     }
     QList<QRectF> monitors() override {
         QList<QRectF> rectangles;

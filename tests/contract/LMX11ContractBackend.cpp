@@ -70,10 +70,11 @@ public:
         client(window).ask(command.toLatin1());
     }
     void minimize(const LMElement& window) override;
-    void setState(const LMElement& window, LMContractState state) override {
-        const bool isAbove = state == LMContractState::Above;
-        LMRunTool(u"wmctrl -i -r %1 -b add,%2"_qs.arg(window.identifier)
-                      .arg(isAbove ? u"above"_qs : u"fullscreen"_qs));
+    void setState(const LMElement& window, LMContractState state, bool isSet) override {
+        constexpr std::array words{"fullscreen", "above", "maximized_vert,maximized_horz"};
+        LMRunTool(u"wmctrl -i -r %1 -b %2,%3"_qs.arg(window.identifier)
+                      .arg(isSet ? u"add"_qs : u"remove"_qs)
+                      .arg(QLatin1String(words.at(size_t(state)))));
     }
     void raise(const LMElement& window) override;
     void freeze(const LMElement& window) override {
@@ -85,6 +86,8 @@ public:
     bool isMinimized(const LMElement& window) override {
         return properties(window).contains(u"state: Iconic"_qs);
     }
+    LMWindowState visibleState(const LMElement& window) override;
+    LMContractView view() override;
     QList<QRectF> monitors() override;
 
 private:
@@ -191,6 +194,39 @@ QRectF LMX11ContractBackend::visibleFrame(const LMElement& window) {
         .marginsAdded(extents(properties, u"_NET_FRAME_EXTENTS"_qs))
         .marginsRemoved(extents(properties, u"_GTK_FRAME_EXTENTS"_qs))
         .translated(-m_mainOrigin);
+}
+
+LMWindowState LMX11ContractBackend::visibleState(const LMElement& window) {
+    const QString text =
+        LMRunTool(u"xprop -notype -id %1 _NET_WM_STATE _NET_WM_DESKTOP"_qs.arg(window.identifier));
+    const auto has = [&](const char* word) {
+        return text.contains(QLatin1String("_NET_WM_STATE_") + QLatin1String(word));
+    };
+    LMWindowState state;
+    state.isMaximizedHorizontally = has("MAXIMIZED_HORZ");
+    state.isMaximizedVertically = has("MAXIMIZED_VERT");
+    state.isFullscreen = has("FULLSCREEN");
+    state.isShaded = has("SHADED");
+    state.isMinimized = has("HIDDEN") && !state.isShaded;
+    state.isKeptAbove = has("ABOVE");
+    state.isKeptBelow = has("BELOW");
+    const QString desktop =
+        QRegularExpression(u"_NET_WM_DESKTOP = (\\d+)"_qs).match(text).captured(1);
+    state.isOnAllDesktops = desktop == u"4294967295"_qs;
+    if (!state.isOnAllDesktops)
+        state.desktop = desktop.toInt();
+    return state;
+}
+
+LMContractView LMX11ContractBackend::view() {
+    const QString text =
+        LMRunTool(u"xprop -root -notype _NET_CURRENT_DESKTOP _NET_ACTIVE_WINDOW"_qs);
+    const auto captured = [&](const QString& pattern) {
+        return QRegularExpression(pattern).match(text).captured(1);
+    };
+    return {captured(u"DESKTOP = (\\d+)"_qs).toInt(),
+            {LMElement::Kind::Window,
+             captured(u"window id # (0x[0-9a-f]+)"_qs).toLongLong(nullptr, 16)}};
 }
 
 QList<QRectF> LMX11ContractBackend::monitors() {

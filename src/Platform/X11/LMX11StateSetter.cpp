@@ -10,8 +10,11 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// What a frozen window manager costs.
-constexpr auto answerTime = 250ms;
+/// What a frozen window manager costs. Twice what frames get: changing a state means a new frame,
+/// new decorations and showing or hiding, and mutter repaints in between.
+constexpr auto answerTime = 500ms;
+/// A busy one may well answer next time.
+constexpr int mostMissedAnswers = 2;
 /// How long a manager that has worked through the requests may be silent before it is taken to
 /// have refused what has not come. marco and mutter hide and show windows when they are idle.
 constexpr auto quietTime = 50ms;
@@ -50,17 +53,18 @@ bool LMX11StateSetter::reach(LMX11Reading& reading, const QList<LMWindowState>& 
         haveShadows = haveShadows || window.hasShadowProperty;
     }
     // The last time for what a manager has undone or forgotten over something else.
+    int missed = 0;
     for (const Means means : {Means::States, Means::Mapping, Means::Mapping}) {
-        if (tasks.isEmpty())
+        if (tasks.isEmpty() || missed == mostMissedAnswers)
             break;
         for (const Task& task : std::as_const(tasks))
             send(task, LMX11StateOfWindow(*task.window, reading.desktopNames), means);
         if (!settle(tasks, reading.desktopNames))
-            return false;
+            ++missed;
     }
-    if (!m_asked.isEmpty())
+    if (!m_asked.isEmpty() && missed < mostMissedAnswers)
         waitForRest(haveShadows);
-    return true;
+    return tasks.isEmpty() || missed == 0;
 }
 
 void LMX11StateSetter::send(const Task& task, const LMWindowState& is, Means means) {
@@ -121,9 +125,9 @@ void LMX11StateSetter::sendToDesktop(xcb_window_t window, const LMWindowState& w
 
 /// Waits until the manager has answered, and leaves the tasks that are not done.
 bool LMX11StateSetter::settle(Tasks& tasks, const QStringList& desktopNames) {
-    if (!m_windowManager.waitUntilCaughtUp(after(tasks.size() * answerTime), answerTime))
-        return false;
-    const Deadline deadline = after(answerTime);
+    const bool isAnswered =
+        m_windowManager.waitUntilCaughtUp(after(tasks.size() * answerTime), answerTime);
+    const Deadline deadline = after(isAnswered ? answerTime : 0ms);
     do {
         LMX11WindowReader::Windows windows;
         for (const Task& task : std::as_const(tasks))
@@ -132,7 +136,7 @@ bool LMX11StateSetter::settle(Tasks& tasks, const QStringList& desktopNames) {
         tasks.removeIf(
             [&](const Task& task) { return isReached(*task.window, task.wanted, desktopNames); });
     } while (!tasks.isEmpty() && waitForChange(std::min(deadline, after(quietTime))));
-    return true;
+    return isAnswered;
 }
 
 /// Frames and shadows follow the states, step by step with some toolkits.

@@ -44,8 +44,9 @@ public:
     LMX11StateSetter(LMX11Connection& connection, LMX11WindowManager& windowManager);
 
     /// Wanted are possible states, one per window of the reading, which is brought up to date.
-    /// Returns when all are reached, or when the manager has nothing more to say. False when it
-    /// did not answer within 250 ms of its last sign of life.
+    /// Returns when all are reached, or when the manager has nothing more to say. False when
+    /// something is left and it did not answer within 500 ms of its last sign of life; a frozen
+    /// one costs a second.
     bool reach(LMX11Reading& reading, const QList<LMWindowState>& wanted);
 
 private:

@@ -19,6 +19,8 @@ LMX11ViewGuard::LMX11ViewGuard(LMX11Connection& connection, LMX11WindowManager& 
       m_view(LMX11ReadManagerLists(connection)) {}
 
 void LMX11ViewGuard::restore() {
+    // Managers hear of the focus that they gave after they have read everything else.
+    m_windowManager.waitUntilCaughtUp(std::chrono::steady_clock::now() + answerTime);
     // Twice: managers take a request for outdated that is older than what they have just done.
     for (int attempt = 0; attempt < 2 && !isBack(); ++attempt) {
         if (m_now.currentDesktop != m_view.currentDesktop)

@@ -165,6 +165,11 @@ void LMX11WindowManager::lower(xcb_window_t window) {
     xcb_configure_window(m_connection.xcb(), window, XCB_CONFIG_WINDOW_STACK_MODE, &below);
 }
 
+void LMX11WindowManager::restackAtBottom(xcb_window_t window) {
+    m_connection.sendToWindowManager(window, m_connection.ewmhAtoms()._NET_RESTACK_WINDOW,
+                                     {userSource, XCB_WINDOW_NONE, XCB_STACK_MODE_BELOW, 0, 0});
+}
+
 void LMX11WindowManager::activate(xcb_window_t window, xcb_window_t activeWindow) {
     // Managers refuse requests without the time of the user's action or call them suspicious.
     m_connection.sendToWindowManager(window, m_connection.ewmhAtoms()._NET_ACTIVE_WINDOW,

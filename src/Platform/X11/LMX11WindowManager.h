@@ -45,9 +45,10 @@ public:
     void requestMap(xcb_window_t window);
     /// A virtual desktop's number, or LMX11Window::allDesktops.
     void sendToDesktop(xcb_window_t window, quint32 desktop);
-    /// To the bottom of its layer. Sibling windows cannot be named, for the server knows the
-    /// manager's frames as siblings only, and few managers support _NET_RESTACK_WINDOW.
+    /// To the bottom of its layer, as if the client itself asked for it.
     void lower(xcb_window_t window);
+    /// The same in the user's name, where the manager supports _NET_RESTACK_WINDOW.
+    void restackAtBottom(xcb_window_t window);
     /// Asks for the focus in the user's name.
     void activate(xcb_window_t window, xcb_window_t activeWindow);
     void showDesktop(quint32 desktop);

@@ -117,7 +117,8 @@ void LMX11WindowReader::measureDecorations(const Windows& windows) {
 
 /// Those that stand elsewhere for the moment. To draw how a window turns into its icon or back,
 /// openbox moves the frame itself, small as a title bar: with the window already hidden on the way
-/// there, with the window already shown on the way back.
+/// there, with the window already shown on the way back, also when that is
+/// sent to another virtual desktop meanwhile.
 LMX11WindowReader::Windows LMX11WindowReader::animated(Windows windows) {
     windows.removeIf([this](const LMX11Window* window) {
         return !window->exists || window->states.isShaded ||
@@ -129,7 +130,8 @@ LMX11WindowReader::Windows LMX11WindowReader::animated(Windows windows) {
         const TopLevel& topLevel = topLevels[index];
         const LMX11Geometry& geometry = windows[index]->geometry;
         const int height = geometry.client.marginsAdded(geometry.decorations).height();
-        if (topLevel.exists() && topLevel.isMapped && topLevel.rect.height() < height)
+        const bool isShown = topLevel.isMapped || !windows[index]->states.isMinimized;
+        if (topLevel.exists() && isShown && topLevel.rect.height() < height)
             result.append(windows[index]);
     }
     return result;

@@ -2,31 +2,16 @@
 #include "Platform/X11/LMX11WindowStates.h"
 
 #include "Platform/X11/LMX11Accessibility.h"
-#include "Platform/X11/LMX11ApplicationIndex.h"
 #include "Platform/X11/LMX11DesktopsRequest.h"
 #include "Platform/X11/LMX11NormalFrames.h"
-#include "Platform/X11/LMX11Stacking.h"
 #include "Platform/X11/LMX11ViewGuard.h"
 #include "Platform/X11/LMX11WindowManager.h"
 #include "Platform/X11/LMX11WindowState.h"
 
-using namespace std::chrono_literals;
-
 namespace {
-
-/// What a frozen window manager costs.
-constexpr auto answerTime = 250ms;
 
 LMPlatformStatus failure(LMPlatformError error) {
     return LMPlatformStatus::failure(error);
-}
-
-LMElement windowElement(xcb_window_t window) {
-    return {LMElement::Kind::Window, window, 0};
-}
-
-int layerOf(const LMX11Window& window) {
-    return int(window.states.isAbove) - int(window.states.isBelow);
 }
 
 } // namespace
@@ -35,9 +20,9 @@ LMX11WindowStates::LMX11WindowStates(LMX11Connection& connection, LMX11Applicati
                                      LMX11WindowManager& windowManager,
                                      LMX11Accessibility& accessibility,
                                      LMX11NormalFrames& normalFrames)
-    : m_connection(connection), m_index(index), m_windowManager(windowManager),
-      m_accessibility(accessibility), m_normalFrames(normalFrames), m_reader(connection),
-      m_setter(connection, windowManager) {}
+    : m_connection(connection), m_windowManager(windowManager), m_accessibility(accessibility),
+      m_normalFrames(normalFrames), m_reader(connection), m_setter(connection, windowManager),
+      m_stackSetter(connection, index, windowManager) {}
 
 LMWindowStateSupport LMX11WindowStates::windowStateSupport() {
     const xcb_ewmh_connection_t& atoms = m_connection.ewmhAtoms();
@@ -108,41 +93,15 @@ QList<LMPlatformStatus> LMX11WindowStates::setStates(const QList<LMWindowStateCh
 }
 
 QList<LMElement> LMX11WindowStates::stackingOrder() {
-    m_index.refresh();
     QList<LMElement> result;
-    for (const xcb_window_t window : m_index.stackingOrder()) {
-        const auto presence = m_index.presence(window);
-        if (presence && presence->isListed)
-            result.append(windowElement(window));
-    }
+    for (const xcb_window_t window : m_stackSetter.stackingOrder())
+        result.append({LMElement::Kind::Window, window, 0});
     return result;
 }
 
 LMPlatformStatus LMX11WindowStates::setStackingOrder(const QList<LMElement>& frontToBack) {
     QList<xcb_window_t> windows;
-    for (const LMElement& element : stackingOrder())
-        windows.append(xcb_window_t(element.identifier));
-    QList<LMX11StackedWindow> pile;
-    const LMX11Reading reading = m_reader.readFrames(windows);
-    for (const LMX11Window& window : reading.windows) {
-        if (window.exists)
-            pile.append({window.identifier, layerOf(window),
-                         window.isOnAllDesktops() ? std::nullopt : window.desktop});
-    }
-    QList<xcb_window_t> wanted;
     for (const LMElement& element : frontToBack)
-        wanted.append(xcb_window_t(element.identifier));
-    const QList<xcb_window_t> toLower = LMX11WindowsToLower(pile, wanted);
-    if (!m_windowManager.isRunning())
-        return failure(LMPlatformError::CannotComplete);
-    if (toLower.isEmpty())
-        return LMPlatformStatus::success();
-    LMX11ViewGuard view(m_connection, m_windowManager);
-    for (const xcb_window_t window : toLower)
-        m_windowManager.lower(window);
-    const auto deadline = std::chrono::steady_clock::now() + toLower.size() * answerTime;
-    if (!m_windowManager.waitUntilCaughtUp(deadline, answerTime))
-        return failure(LMPlatformError::CannotComplete);
-    view.restore();
-    return LMPlatformStatus::success();
+        windows.append(xcb_window_t(element.identifier));
+    return m_stackSetter.reach(windows);
 }

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+#include "Platform/X11/LMX11StackSetter.h"
+
+#include "Platform/X11/LMX11ApplicationIndex.h"
+#include "Platform/X11/LMX11Stacking.h"
+#include "Platform/X11/LMX11ViewGuard.h"
+#include "Platform/X11/LMX11WindowManager.h"
+
+#include <vector>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// What a frozen window manager costs.
+constexpr auto answerTime = 250ms;
+/// How long a manager may take to tell the new order after it has read the requests.
+constexpr auto quietTime = 50ms;
+
+LMX11Connection::Deadline after(std::chrono::milliseconds duration) {
+    return std::chrono::steady_clock::now() + duration;
+}
+
+int layerOf(const LMX11Window& window) {
+    return int(window.states.isAbove) - int(window.states.isBelow);
+}
+
+} // namespace
+
+LMX11StackSetter::LMX11StackSetter(LMX11Connection& connection, LMX11ApplicationIndex& index,
+                                   LMX11WindowManager& windowManager)
+    : m_connection(connection), m_index(index), m_windowManager(windowManager),
+      m_reader(connection) {}
+
+QList<xcb_window_t> LMX11StackSetter::stackingOrder() {
+    m_index.refresh();
+    QList<xcb_window_t> result = m_index.stackingOrder();
+    result.removeIf([this](xcb_window_t window) {
+        const auto presence = m_index.presence(window);
+        return !presence || !presence->isListed;
+    });
+    return result;
+}
+
+LMPlatformStatus LMX11StackSetter::reach(const QList<xcb_window_t>& wanted) {
+    const auto failed = LMPlatformStatus::failure(LMPlatformError::CannotComplete);
+    if (!m_windowManager.isRunning())
+        return failed;
+    QList<xcb_window_t> windows = windowsToLower(wanted);
+    if (windows.isEmpty())
+        return LMPlatformStatus::success();
+    LMX11ViewGuard view(m_connection, m_windowManager);
+    bool isAnswered = false;
+    for (const bool insists : {false, true}) {
+        isAnswered = lower(windows, insists);
+        const auto isNews = [this](const xcb_generic_event_t& event) {
+            return LMXcbEventType(event) == XCB_PROPERTY_NOTIFY &&
+                   reinterpret_cast<const xcb_property_notify_event_t&>(event).atom ==
+                       m_connection.ewmhAtoms()._NET_CLIENT_LIST_STACKING;
+        };
+        const auto deadline = after(answerTime);
+        do {
+            windows = windowsToLower(wanted);
+        } while (!windows.isEmpty() &&
+                 m_connection.waitForEvent(isNews, std::min(deadline, after(quietTime))));
+        if (windows.isEmpty())
+            break;
+    }
+    if (isAnswered)
+        view.restore();
+    return isAnswered || windows.isEmpty() ? LMPlatformStatus::success() : failed;
+}
+
+QList<xcb_window_t> LMX11StackSetter::windowsToLower(const QList<xcb_window_t>& wanted) {
+    QList<LMX11StackedWindow> pile;
+    const LMX11Reading reading = m_reader.readFrames(stackingOrder());
+    for (const LMX11Window& window : reading.windows) {
+        if (window.exists)
+            pile.append({window.identifier, layerOf(window),
+                         window.isOnAllDesktops() ? std::nullopt : window.desktop});
+    }
+    return LMX11WindowsToLower(pile, wanted);
+}
+
+bool LMX11StackSetter::lower(const QList<xcb_window_t>& windows, bool insists) {
+    const xcb_ewmh_connection_t& atoms = m_connection.ewmhAtoms();
+    const LMX11PropertyRequest supported(m_connection, m_connection.root(), atoms._NET_SUPPORTED);
+    const bool canRestack = supported.receive(m_connection).containsWord(atoms._NET_RESTACK_WINDOW);
+    if (insists && !canRestack) {
+        lowerAsIfUsed(windows);
+    } else {
+        for (const xcb_window_t window : windows)
+            insists ? m_windowManager.restackAtBottom(window) : m_windowManager.lower(window);
+    }
+    return waitForManager(windows.size());
+}
+
+/// The times are put back. Managers do not take older ones to heart.
+void LMX11StackSetter::lowerAsIfUsed(const QList<xcb_window_t>& windows) {
+    const xcb_atom_t userTime = m_connection.ewmhAtoms()._NET_WM_USER_TIME;
+    const uint32_t now = m_connection.serverTime();
+    std::vector<LMX11PropertyRequest> requests;
+    for (const xcb_window_t window : windows)
+        requests.emplace_back(m_connection, window, userTime);
+    const auto set = [&](xcb_window_t window, uint32_t time) {
+        xcb_change_property(m_connection.xcb(), XCB_PROP_MODE_REPLACE, window, userTime,
+                            XCB_ATOM_CARDINAL, 32, 1, &time);
+    };
+    for (const xcb_window_t window : windows)
+        set(window, now);
+    waitForManager(windows.size());
+    for (const xcb_window_t window : windows)
+        m_windowManager.lower(window);
+    waitForManager(windows.size());
+    for (qsizetype index = 0; index < windows.size(); ++index) {
+        if (const auto before = requests[size_t(index)].receive(m_connection).firstWord())
+            set(windows[index], *before);
+        else
+            xcb_delete_property(m_connection.xcb(), windows[index], userTime);
+    }
+}
+
+bool LMX11StackSetter::waitForManager(qsizetype requests) {
+    return m_windowManager.waitUntilCaughtUp(after(requests * answerTime), answerTime);
+}

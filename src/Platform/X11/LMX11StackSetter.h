@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Platform/LMPlatformTypes.h"
+#include "Platform/X11/LMX11WindowReader.h"
+
+class LMX11ApplicationIndex;
+class LMX11WindowManager;
+
+/// Brings windows into an order by lowering them one after the other, which goes to the bottom of
+/// their layer: the only request about the order that all managers obey without giving anybody the
+/// focus. Tried out:
+///
+///                                 openbox 3.6  xfwm4 4.18   marco 1.26  kwin 5.27   mutter 43
+///     lower (ConfigureWindow)     yes          yes          own (1)     yes         own (1)
+///       the active window         keeps focus  loses focus  keeps it    keeps it    keeps it
+///       bottom of                 everything   everything   desktop     everything  desktop
+///     raise (ConfigureWindow)     yes          with focus   own (1)     refuses     own (1)
+///     _NET_RESTACK_WINDOW         yes          unknown      unknown     attention   yes
+///       relative to a sibling     to the end   -            -           yes         ignores it
+///
+/// (1) Windows of the active application. Others are to have been used later than the active
+/// window, as their _NET_WM_USER_TIME says.
+///
+/// Hence: windows are lowered; where that does not help, by _NET_RESTACK_WINDOW if it is known,
+/// else as if they had just been used. What is in order already is left alone. xfwm4's active
+/// window gets the focus back, and with it the place in front of the others.
+class LMX11StackSetter {
+public:
+    /// All must outlive it.
+    LMX11StackSetter(LMX11Connection& connection, LMX11ApplicationIndex& index,
+                     LMX11WindowManager& windowManager);
+
+    /// Those of the index that applications list, front to back.
+    QList<xcb_window_t> stackingOrder();
+
+    /// Front to back. Answers CannotComplete when the manager does not answer.
+    LMPlatformStatus reach(const QList<xcb_window_t>& wanted);
+
+private:
+    QList<xcb_window_t> windowsToLower(const QList<xcb_window_t>& wanted);
+    bool lower(const QList<xcb_window_t>& windows, bool insists);
+    void lowerAsIfUsed(const QList<xcb_window_t>& windows);
+    bool waitForManager(qsizetype requests);
+
+    LMX11Connection& m_connection;
+    LMX11ApplicationIndex& m_index;
+    LMX11WindowManager& m_windowManager;
+    LMX11WindowReader m_reader;
+};
