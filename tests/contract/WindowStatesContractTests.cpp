@@ -167,4 +167,14 @@ TEST_P(WindowStatesContract, WindowsArePiledUpAsWanted) {
         EXPECT_EQ(backend->view(), view);
     }
     EXPECT_EQ(all().stackingOrder().size(), order.size() + 2);
+    // One manager keeps the active window in front.
+    std::ranges::reverse(order);
+    EXPECT_TRUE(inTime(bool(all().setStackingOrder(order))));
+    order.removeOne(view.activeWindow);
+    EXPECT_TRUE(LMWaitUntil([&] {
+        QList<LMElement> others = pile();
+        others.removeOne(view.activeWindow);
+        return others == QList{above} + order;
+    }));
+    EXPECT_EQ(backend->view(), view);
 }

@@ -49,7 +49,9 @@ void LMX11NormalFrames::observe(const xcb_generic_event_t& event) {
         m_watched.remove(destroyed.window);
         m_changed.remove(destroyed.window);
     } else if (type == XCB_CONFIGURE_NOTIFY) {
-        m_changed.insert(reinterpret_cast<const xcb_configure_notify_event_t&>(event).window);
+        const auto& changed = reinterpret_cast<const xcb_configure_notify_event_t&>(event);
+        if (changed.window != m_connection.ownWindow())
+            m_changed.insert(changed.window);
     } else if (type == XCB_PROPERTY_NOTIFY) {
         const auto& changed = reinterpret_cast<const xcb_property_notify_event_t&>(event);
         if (changed.atom == m_connection.ewmhAtoms()._NET_WM_STATE)

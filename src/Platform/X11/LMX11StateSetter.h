@@ -49,6 +49,9 @@ public:
     /// one costs a second.
     bool reach(LMX11Reading& reading, const QList<LMWindowState>& wanted);
 
+    /// Whether there was anything to ask for the last time.
+    bool hasAsked() const { return !m_asked.isEmpty(); }
+
 private:
     enum class Means { States, Mapping };
     struct Task {

@@ -48,6 +48,6 @@ bool LMX11ViewGuard::isBack() {
 bool LMX11ViewGuard::isInSight(xcb_window_t identifier) {
     const LMX11Window window =
         LMX11WindowReader(m_connection).readFrames({identifier}).windows.first();
-    return window.exists && !window.states.isMinimized &&
+    return window.exists && !window.states.isMinimized && !window.states.isShaded &&
            (window.isOnAllDesktops() || window.desktop.value_or(0) == m_view.currentDesktop);
 }

@@ -17,7 +17,8 @@ public:
     const QList<xcb_window_t>& stackingOrder() const { return m_view.stackingOrder; }
 
     /// To be called when the manager has done what it was asked. A window that is out of sight
-    /// now does not get the focus back: it lost it by what was asked for.
+    /// now does not get the focus back: it lost it by what was asked for. Nor does a shaded one,
+    /// which marco would show for that.
     void restore();
 
 private:

@@ -77,7 +77,7 @@ QList<LMPlatformStatus> LMX11WindowStates::setStates(const QList<LMWindowStateCh
             changes[index].state, LMX11StateOfWindow(reading.windows[index], reading.desktopNames),
             support, reading.desktopNames, int(view.currentDesktop())));
     const bool isAnswered = support != LMWindowStateSupport() && m_setter.reach(reading, wanted);
-    if (isAnswered)
+    if (isAnswered && m_setter.hasAsked())
         view.restore();
 
     const bool isConnected = m_connection.isConnected();
