@@ -17,7 +17,7 @@
 #include <QLocale>
 
 #include <algorithm>
-#include <numeric>
+#include <utility>
 
 namespace {
 
@@ -28,6 +28,8 @@ QString stateText(LMWorkspaceListModel::State state) {
         return LMLocalized("Current");
     case State::CanBecomeCurrent:
         return LMLocalized("Can be made active");
+    case State::SameDisplays:
+        return LMLocalized("Same displays");
     case State::OtherDisplays:
         break;
     }
@@ -41,6 +43,9 @@ QString stateDetails(LMWorkspaceListModel::State state) {
         return LMLocalized("The attached displays stand like these.");
     case State::CanBecomeCurrent:
         return LMLocalized("The attached displays can be arranged like these.");
+    case State::SameDisplays:
+        return LMLocalized("The attached displays stand like these, too, but the current "
+                           "configuration is older and is the one that is used.");
     case State::OtherDisplays:
         break;
     }
@@ -130,8 +135,12 @@ void LMWorkspaceListModel::reload() {
     const Attached attached(m_environment.desktop.screens());
     const auto workspaces = m_store.managedObjectContext().objects<LMWorkspace>();
     QList<Row> rows;
-    for (const LMWorkspace* workspace : workspaces)
-        rows.append(row(*workspace, attached));
+    bool hasCurrent = false;
+    for (const LMWorkspace* workspace : workspaces) {
+        Row& added = rows.emplaceBack(row(*workspace, attached));
+        if (added.state == State::Current && std::exchange(hasCurrent, true))
+            added.state = State::SameDisplays; // Commands use the first.
+    }
 
     // Both lists are in the order of the keys, and keys only grow.
     for (qsizetype old = m_rows.size() - 1; old >= 0; --old) {

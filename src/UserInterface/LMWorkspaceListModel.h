@@ -18,7 +18,12 @@ class LMWorkspaceListModel final : public QAbstractTableModel {
     Q_OBJECT
 public:
     enum Column { Name, Status, Displays, Applications, Windows, ColumnCount };
-    enum class State { Current, CanBecomeCurrent, OtherDisplays };
+    enum class State {
+        Current,          ///< The one that commands store to and restore from.
+        CanBecomeCurrent, ///< The attached displays can be arranged like its own.
+        SameDisplays,     ///< Like the current one, which is older.
+        OtherDisplays,
+    };
     static constexpr int SortRole = Qt::UserRole; ///< A text or a number.
 
     /// Both outlive the model.

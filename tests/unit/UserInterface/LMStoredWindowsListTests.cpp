@@ -126,9 +126,14 @@ TEST_F(StoredWindowsList, ShowsWhatAUserWantsToKnow) {
     view().sortByColumn(LMWorkspaceListModel::Name, Qt::DescendingOrder);
     EXPECT_EQ(texts(0).mid(0, 3), QStringList({u"Travel"_s, u"Desk 10"_s, u"Desk 9"_s}));
     // The displays change while it is open.
+    add(u"Travel too"_s, {Main});
     desktop.setScreens({Main});
     desktop.announceScreenChange();
-    EXPECT_EQ(texts(LMWorkspaceListModel::Status).first(), u"Current"_s);
+    EXPECT_EQ(texts(LMWorkspaceListModel::Name).mid(0, 2),
+              QStringList({u"Travel too"_s, u"Travel"_s}));
+    EXPECT_EQ(texts(LMWorkspaceListModel::Status).mid(0, 3),
+              QStringList({u"Same displays"_s, u"Current"_s, u"Other displays"_s}))
+        << "commands use the older one";
     EXPECT_TRUE(view().currentIndex().isValid());
 }
 
