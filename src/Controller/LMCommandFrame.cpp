@@ -12,7 +12,10 @@
 LMCommandFrame::LMCommandFrame(const LMCommandParts& parts, const QString& label)
     : m_parts(parts), m_activity(parts.environment, label),
       m_transients(parts.store.managedObjectContext()),
-      m_activeAtStart(LMWorkspaceAdditions(parts.environment).runningApplication()) {}
+      m_activeAtStart(LMWorkspaceAdditions(parts.environment).runningApplication()) {
+    // Afterwards the record it is typed for may be another one.
+    parts.store.commitEditing();
+}
 
 LMCommandResult LMCommandFrame::finish() {
     if (m_activeAtStart)

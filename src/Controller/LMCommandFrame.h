@@ -28,9 +28,10 @@ struct LMCommandParts {
     LMFrontmostApplication& frontmostApplication;
 };
 
-/// What all commands do around their work, for as long as it lives: no other command begins, the
-/// application that was active gets the focus back when the work was done, and the live records
-/// that only served the command are let go.
+/// What all commands do around their work, for as long as it lives: what is being typed in open
+/// windows counts as it stood before, no other command begins, the application that was active gets
+/// the focus back when the work was done, and the live records that only served the command are let
+/// go.
 class LMCommandFrame {
 public:
     /// label: what the command does, for people who ask what the process is doing.

@@ -108,14 +108,18 @@ LMObjectContext& LMStoredWindowsStore::managedObjectContext() {
 void LMStoredWindowsStore::saveWindows() {
     deleteUnattachedObjects();
     const LMLogger& logger = m_environment.logger;
-    if (m_commitEditing && !m_commitEditing())
-        logger.error(QStringLiteral("Commit editing failed."));
+    commitEditing();
     const auto saved = managedObjectContext().save();
     m_saveFailure = saved ? QString() : saved.error();
     if (!saved)
         logger.error(QStringLiteral("Save failed: %@"), {m_saveFailure});
     if (m_reloadTables)
         m_reloadTables();
+}
+
+void LMStoredWindowsStore::commitEditing() {
+    if (m_commitEditing && !m_commitEditing())
+        m_environment.logger.error(QStringLiteral("Commit editing failed."));
 }
 
 void LMStoredWindowsStore::setCommitEditingHandler(std::function<bool()> handler) {

@@ -83,8 +83,11 @@ public:
     /// Once, at launch, after the store was opened.
     LMBackupResult backupStoredWindowsIfNecessary();
 
-    /// Asked before each save to end editing in open windows; answers false when one refuses.
+    /// Asked before each save, and whenever what is being typed is needed, to write it into the
+    /// records; answers false when a window refuses. May save in turn.
     void setCommitEditingHandler(std::function<bool()> handler);
+    /// Writes what is being typed in open windows into the records.
+    void commitEditing();
     /// Called after each save, whether or not it succeeded.
     void setReloadTablesHandler(std::function<void()> handler);
 

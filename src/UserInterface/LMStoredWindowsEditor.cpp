@@ -74,13 +74,9 @@ void LMStoredWindowsEditor::remove(LMTableView* sender) {
 
 LMStoredWindowsEditor::LMStoredWindowsEditor(LMEnvironment& environment,
                                              LMStoredWindowsStore& store)
-    : m_environment(environment), m_store(store) {
-    m_store.setCommitEditingHandler([this] { return commitEditing(); });
-}
+    : m_environment(environment), m_store(store) {}
 
-LMStoredWindowsEditor::~LMStoredWindowsEditor() {
-    m_store.setCommitEditingHandler({});
-}
+LMStoredWindowsEditor::~LMStoredWindowsEditor() = default;
 
 LMWorkspace* LMStoredWindowsEditor::workspace() const {
     return static_cast<LMWorkspace*>(

@@ -24,9 +24,13 @@ LMStoredWindowsList::LMStoredWindowsList(LMEnvironment& environment, LMStoredWin
           LMLocalized("Do you wish to delete all stored windows for the selected display "
                       "configuration?"),
           {LMLocalized("Delete"), LMLocalized("Cancel")}},
-      m_workspaces(environment, store), m_workspacesController(m_workspaces) {}
+      m_workspaces(environment, store), m_workspacesController(m_workspaces) {
+    m_store.setCommitEditingHandler([this] { return commitEditing(); });
+}
 
-LMStoredWindowsList::~LMStoredWindowsList() = default;
+LMStoredWindowsList::~LMStoredWindowsList() {
+    m_store.setCommitEditingHandler({});
+}
 
 QWidget* LMStoredWindowsList::window() const {
     return m_window.get();
@@ -65,6 +69,12 @@ void LMStoredWindowsList::reloadTableViews() {
     if (m_window && m_window->isVisible())
         m_workspaces.reload();
     m_storedWindowsEditor.reloadTableViews();
+}
+
+bool LMStoredWindowsList::commitEditing() {
+    if (m_window)
+        m_window->commitEditing();
+    return m_storedWindowsEditor.commitEditing();
 }
 
 // --- the selection -------------------------------------------------------------------------

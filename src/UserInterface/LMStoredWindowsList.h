@@ -41,6 +41,8 @@ public:
 
     /// The store has changed.
     void reloadTableViews();
+    /// Writes what is being typed, here or in the editor, into the records; never refuses.
+    bool commitEditing();
 
 private:
     void windowDidLoad();

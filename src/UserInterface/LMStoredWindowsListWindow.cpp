@@ -36,6 +36,17 @@ public:
         if (line == nullptr || !line->isModified())
             QStyledItemDelegate::setEditorData(editor, index);
     }
+
+    /// Writes each text once: renaming saves, and saving asks for what is being typed.
+    void setModelData(QWidget* editor, QAbstractItemModel* model,
+                      const QModelIndex& index) const override {
+        constexpr const char* Written = "written";
+        const auto* line = static_cast<const QLineEdit*>(editor);
+        if (!line->isModified() || editor->property(Written) == QVariant(line->text()))
+            return;
+        editor->setProperty(Written, line->text());
+        QStyledItemDelegate::setModelData(editor, model, index);
+    }
 };
 
 /// Wide enough for a header or a usual text, in a font of any size.
@@ -55,7 +66,8 @@ int columnWidth(const QTreeView& view, int column) {
 } // namespace
 
 LMStoredWindowsListWindow::LMStoredWindowsListWindow(QAbstractItemModel& workspaces)
-    : m_tableView(new QTreeView), m_emptyLabel(new QLabel), m_displayView(new LMDisplayView) {
+    : m_tableView(new QTreeView), m_rowDelegate(new RowDelegate(m_tableView)),
+      m_emptyLabel(new QLabel), m_displayView(new LMDisplayView) {
     setObjectName(QStringLiteral("storedWindowsList"));
     setWindowRole(objectName());
     setWindowTitle(LMLocalized("Stored Windows"));
@@ -95,7 +107,7 @@ void LMStoredWindowsListWindow::makeTableView(QAbstractItemModel& workspaces) {
     view.setObjectName(QStringLiteral("workspaces"));
     view.setAccessibleName(LMLocalized("Display configurations"));
     view.setModel(&workspaces);
-    view.setItemDelegate(new RowDelegate(&view));
+    view.setItemDelegate(m_rowDelegate);
     view.setRootIsDecorated(false);
     view.setUniformRowHeights(true);
     view.setAllColumnsShowFocus(true);
@@ -180,6 +192,13 @@ void LMStoredWindowsListWindow::addButton(QBoxLayout& row, QAction& action) {
     connect(&action, &QAction::changed, button,
             [button, &action] { button->setEnabled(action.isEnabled()); });
     row.addWidget(button);
+}
+
+void LMStoredWindowsListWindow::commitEditing() {
+    for (QLineEdit* editor : m_tableView->viewport()->findChildren<QLineEdit*>()) {
+        if (editor->isVisible())
+            Q_EMIT m_rowDelegate->commitData(editor);
+    }
 }
 
 void LMStoredWindowsListWindow::setAvailable(bool hasSelection, bool canMakeActive) {

@@ -8,6 +8,7 @@ class QAbstractItemModel;
 class QAction;
 class QBoxLayout;
 class QLabel;
+class QStyledItemDelegate;
 class QTreeView;
 
 /// The window of the stored windows list: the workspaces beside the map of the selected one's
@@ -23,6 +24,9 @@ public:
 
     /// What can be done with the selection now.
     void setAvailable(bool hasSelection, bool canMakeActive);
+
+    /// Writes a name that is being typed into its record.
+    void commitEditing();
 
     QSize sizeHint() const override;
 
@@ -43,6 +47,7 @@ private:
     void showWhetherEmpty();
 
     QTreeView* m_tableView;
+    QStyledItemDelegate* m_rowDelegate;
     QLabel* m_emptyLabel;
     LMDisplayView* m_displayView;
     QAction* m_editAction = nullptr;

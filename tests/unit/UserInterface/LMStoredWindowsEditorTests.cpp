@@ -37,6 +37,7 @@ protected:
             store.saveWindows();
         });
         store.setReloadTablesHandler([this] { editor.reloadTableViews(); });
+        store.setCommitEditingHandler([this] { return editor.commitEditing(); });
         workspace = context.insertObject<LMWorkspace>();
         addApplication(u"Editor"_s, {u"a"_s, u"b"_s, u"c"_s});
         addApplication(u"browser"_s, {u"news"_s});

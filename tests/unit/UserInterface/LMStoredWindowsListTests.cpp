@@ -153,6 +153,8 @@ TEST_F(StoredWindowsList, AWorkspaceIsRenamedInPlace) {
         field->insert(row.typed);
         // Something else is saved in the middle of it, and a display is unplugged.
         center.postNotification(LMNotification::SaveWindows);
+        EXPECT_EQ(context().objects<LMWorkspace>().at(0)->name(), row.stored);
+        EXPECT_FALSE(context().hasChanges());
         desktop.setScreens({{0, 0, 1440, 900}});
         desktop.announceScreenChange();
         EXPECT_EQ(field->text(), row.typed);
