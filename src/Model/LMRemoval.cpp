@@ -5,6 +5,7 @@
 #include "Model/LMApplication.h"
 #include "Model/LMDisplay.h"
 #include "Model/LMStoredWindow.h"
+#include "Model/LMWindow.h"
 #include "Model/LMWorkspace.h"
 #include "Model/Store/LMObjectContext.h"
 
@@ -28,6 +29,13 @@ QStringList boundsOfDisplays(const LMWorkspace& workspace) {
     for (const LMDisplay* display : workspace.displays())
         bounds.append(display->displayBounds());
     return bounds;
+}
+
+/// Whether both were stored from the same window, as far as anything tells.
+bool isSame(const LMStoredWindow& a, const LMStoredWindow& b) {
+    return std::ranges::any_of(a.matchingWindows(), [&b](const LMWindow* window) {
+        return b.identicalMatchingWindow(*window) != nullptr;
+    });
 }
 
 bool isNothing(const LMManagedObject&) {
@@ -64,6 +72,8 @@ void LMRemoval::remember(const LMManagedObject& object, LMApplication* applicati
     m_workspace.emplace(workspace, isDisplay);
     m_displayBounds = boundsOfDisplays(workspace);
     m_windows.clear();
+    const auto stored = m_context.objects<LMStoredWindow>();
+    m_latestKey = stored.empty() ? 0 : stored.back()->objectID().key;
     if (!application) {
         m_action.emplace(object);
         return;
@@ -106,12 +116,34 @@ LMWorkspace* LMRemoval::takeBack() {
         return workspace;
     }
     LMApplication* application = applicationToJoin(*workspace);
-    QStringList ordering = application->windowsOrdering();
+    if (m_what == m_application->root())
+        m_what = application->objectID();
+    takeBackWindows(*application);
+    return workspace;
+}
+
+void LMRemoval::takeBackWindows(LMApplication& application) {
+    std::vector<LMStoredWindow*> later;
+    for (LMStoredWindow* window : application.windows()) {
+        if (window->objectID().key > m_latestKey)
+            later.push_back(window);
+    }
+    QStringList ordering = application.windowsOrdering();
     for (const Window& window : m_windows) {
-        const QString uri = window.record.restore(m_context, application)->uriRepresentation();
+        auto* back = static_cast<LMStoredWindow*>(window.record.restore(m_context, &application));
+        // Each stands for one: there may be several windows that nothing tells apart.
+        const auto same = std::ranges::find_if(
+            later, [back](const LMStoredWindow* candidate) { return isSame(*back, *candidate); });
+        if (same != later.end()) {
+            if (m_what == back->objectID())
+                m_what = (*same)->objectID();
+            later.erase(same);
+            application.removeWindowsObject(back);
+            continue;
+        }
+        const QString uri = back->uriRepresentation();
         if (!ordering.contains(uri))
             ordering.insert(std::min(window.place, ordering.size()), uri);
     }
-    application->setWindowsOrdering(ordering);
-    return workspace;
+    application.setWindowsOrdering(ordering);
 }

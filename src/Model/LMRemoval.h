@@ -30,8 +30,11 @@ public:
     /// Puts back everything that perform took away, in its old place, and answers the workspace in
     /// which it stands; none before perform. What the user stored anew in the meantime stays: when
     /// there is a new record of the application, or a new workspace of the same displays, that is
-    /// the one to join.
+    /// the one to join, and a window that is stored again already does not come back a second time.
     LMWorkspace* takeBack();
+
+    /// What perform removes: after takeBack that is what stands for it now.
+    LMObjectID what() const { return m_what; }
 
 private:
     struct Window {
@@ -42,6 +45,7 @@ private:
     void remember(const LMManagedObject& object, LMApplication* application);
     LMWorkspace* workspaceToJoin() const;
     LMApplication* applicationToJoin(LMWorkspace& workspace) const;
+    void takeBackWindows(LMApplication& application);
 
     LMObjectContext& m_context;
     LMObjectID m_what;
@@ -49,6 +53,7 @@ private:
     std::optional<LMRecordSnapshot> m_application; ///< Without its windows.
     std::optional<LMRecordSnapshot> m_action;
     std::vector<Window> m_windows; ///< In their order.
+    qint64 m_latestKey = 0;        ///< Of stored windows at that time: later ones have higher keys.
     QString m_bundleIdentifier;
     QStringList m_displayBounds;
 };

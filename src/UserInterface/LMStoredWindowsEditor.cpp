@@ -23,7 +23,7 @@
 class LMStoredWindowsEditor::Removal final : public QUndoCommand {
 public:
     Removal(LMStoredWindowsEditor& editor, const LMObjectID& what, const QString& text)
-        : QUndoCommand(text), m_editor(editor), m_what(what),
+        : QUndoCommand(text), m_editor(editor),
           m_removal(editor.m_store.managedObjectContext(), what) {}
 
     void redo() override {
@@ -39,12 +39,11 @@ public:
         m_editor.m_workspace = workspace ? workspace->objectID() : LMObjectID();
         m_editor.saveWindows();
         if (m_editor.m_window)
-            m_editor.m_window->reveal(m_what);
+            m_editor.m_window->reveal(m_removal.what());
     }
 
 private:
     LMStoredWindowsEditor& m_editor;
-    LMObjectID m_what;
     LMRemoval m_removal;
 };
 

@@ -57,6 +57,8 @@ protected:
         for (const QString& title : titles) {
             auto* window = context.insertObject<LMWindow>();
             window->setTitle(title);
+            window->setSubrole(u"AXStandardWindow"_s);
+            window->setChildren(QStringList());
             application->addWindowsObject(LMStoredWindow::storedWindowWithWindow(window));
         }
         return application;
@@ -230,6 +232,39 @@ TEST_F(StoredWindowsEditor, RemovesByKeyAndTakesItBack) {
     editor.setWorkspace(context.insertObject<LMWorkspace>());
     QTest::keyClick(&window(), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(context.objects<LMApplication>().size(), 1U);
+}
+
+TEST_F(StoredWindowsEditor, TakesBackNothingThatIsStoredAgain) {
+    const struct {
+        bool isApplication;
+        QStringList storedAgain;
+        QString undone, redone;
+    } rows[] = {
+        {false, {u"a"_s, u"b"_s, u"c"_s}, u"a b c"_s, u"a c"_s},
+        {false, {u"a"_s, u"c"_s}, u"a b c"_s, u"a c"_s},
+        {true, {u"a"_s, u"b"_s}, u"a b c"_s, {}},
+        {true, {u"a"_s, u"a"_s, u"b"_s, u"c"_s}, u"a a b c"_s, {}},
+    };
+    for (const auto& row : rows) {
+        workspace = editor.workspace();
+        workspace->removeAllWindows();
+        addApplication(u"Editor"_s, {u"a"_s, u"b"_s, u"c"_s});
+        addApplication(u"browser"_s, {u"news"_s});
+        store.saveWindows();
+        select(applications(), 1);
+        select(windows(), 1);
+        QTest::keyClick(row.isApplication ? &applications() : &windows(), Qt::Key_Delete);
+        // Everything is stored anew.
+        workspace->removeAllWindows();
+        addApplication(u"Editor"_s, row.storedAgain);
+        store.saveWindows();
+        QTest::keyClick(&window(), Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(titles(), row.undone);
+        QTest::keyClick(&window(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+        EXPECT_EQ(titles(), row.redone);
+        QTest::keyClick(&window(), Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(titles(), row.undone);
+    }
 }
 
 TEST_F(StoredWindowsEditor, ReordersByKeyAndByDrag) {
