@@ -21,9 +21,10 @@ constexpr QSize TextSize(440, 230);
 
 /// The document of that name, in the user's language if there is one, and in the first of the
 /// formats a resource may have. Of these, Qt shows HTML; the others appear as the text they are.
-QTextBrowser* documentView(const QString& name) {
+QTextBrowser* documentView(const QString& name, const QString& title) {
     auto* view = new QTextBrowser;
     view->setObjectName(name);
+    view->setAccessibleName(title);
     view->setOpenExternalLinks(true);
     view->setMinimumSize(TextSize);
     const QString translated = u'_' + LMLocalized("en", "code of this language") + u".html"_qs;
@@ -85,8 +86,12 @@ std::unique_ptr<QDialog> LMAboutWindowController::makeWindow() const {
         QIcon(m_bundle.iconFile).pixmap(QSize(IconEdge, IconEdge), window->devicePixelRatioF()));
     auto* documents = new QTabWidget;
     documents->setDocumentMode(true);
-    documents->addTab(documentView(QStringLiteral("Credits")), LMLocalized("Credits"));
-    documents->addTab(documentView(QStringLiteral("License")), LMLocalized("License"));
+    documents->setAccessibleName(window->windowTitle());
+    const auto add = [documents](const QString& name, const QString& title) {
+        documents->addTab(documentView(name, title), title);
+    };
+    add(QStringLiteral("Credits"), LMLocalized("Credits"));
+    add(QStringLiteral("License"), LMLocalized("License"));
     auto* buttons = new QDialogButtonBox;
     buttons->addButton(LMLocalized("Close"), QDialogButtonBox::RejectRole);
     QObject::connect(buttons, &QDialogButtonBox::rejected, window.get(), &QDialog::reject);

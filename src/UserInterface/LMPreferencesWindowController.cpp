@@ -34,6 +34,7 @@ void LMPreferencesWindowController::makeWindow() {
     m_window->setWindowTitle(m_title);
     m_window->installEventFilter(this);
     m_tabs = new QTabWidget;
+    m_tabs->setAccessibleName(m_title);
     m_tabs->setIconSize({ImageEdge, ImageEdge});
     for (const auto& pane : m_panes) {
         // Scrolls only where the screen is too small for the pane.

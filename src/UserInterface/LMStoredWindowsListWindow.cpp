@@ -30,6 +30,13 @@ public:
         return size + QSize(0, option.fontMetrics.height() / 2);
     }
 
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override {
+        QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
+        editor->setAccessibleName(LMLocalized("Name"));
+        return editor;
+    }
+
     /// A name that is being typed stays when its row is read anew.
     void setEditorData(QWidget* editor, const QModelIndex& index) const override {
         const auto* line = qobject_cast<const QLineEdit*>(editor);

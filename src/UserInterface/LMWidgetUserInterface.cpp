@@ -3,6 +3,7 @@
 
 #include "Platform/LMDesktop.h"
 #include "Platform/LMEnvironment.h"
+#include "UserInterface/LMAccessibleRoles.h"
 #include "UserInterface/LMAlertWindow.h"
 #include "UserInterface/LMGeneralPreferencesViewController.h"
 #include "UserInterface/LMHotKeysPreferencesViewController.h"
@@ -13,6 +14,7 @@
 #include "UserInterface/WindowLinking/LMStoredWindowPicker.h"
 #include "Utilities/LMFormat.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QWindow>
 
@@ -20,7 +22,9 @@ LMWidgetUserInterface::LMWidgetUserInterface(LMEnvironment& environment,
                                              LMStoredWindowsStore& store,
                                              LMBundleInformation bundle, Look look)
     : m_environment(environment), m_store(store), m_look(look),
-      m_aboutWindowController(std::move(bundle)), m_permissionPrompt(environment.desktop) {}
+      m_aboutWindowController(std::move(bundle)), m_permissionPrompt(environment.desktop) {
+    QAccessible::installFactory(LMMakeAccessibleInterface);
+}
 
 LMWidgetUserInterface::~LMWidgetUserInterface() = default;
 

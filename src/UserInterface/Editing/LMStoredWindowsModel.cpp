@@ -20,6 +20,13 @@ QString frameText(const QRectF& frame) {
         {number(frame.width()), number(frame.height()), number(frame.x()), number(frame.y())});
 }
 
+/// For those who hear a cell instead of seeing it.
+QString emptyText(int column) {
+    return column == LMStoredWindowsModel::Label     ? LMLocalized("No label")
+           : column == LMStoredWindowsModel::Pattern ? LMLocalized("No title pattern")
+                                                     : LMLocalized("No title");
+}
+
 } // namespace
 
 LMStoredWindowsModel::LMStoredWindowsModel(LMObjectContext& context, QObject* parent)
@@ -51,6 +58,8 @@ QVariant LMStoredWindowsModel::data(const QModelIndex& index, int role) const {
     const int column = index.column();
     if (role == Qt::DisplayRole)
         return row(index).texts[column];
+    if (role == Qt::AccessibleTextRole && row(index).texts[column].isEmpty())
+        return emptyText(column);
     if (role == Qt::ToolTipRole && column != Frame)
         return LMPresentableToolTip(row(index).texts[column]);
     if (role == Qt::EditRole) {

@@ -3,6 +3,7 @@
 
 #include "UserInterface/LMPresentableText.h"
 #include "UserInterface/WindowLinking/LMFullscreenWindow.h"
+#include "Utilities/LMFormat.h"
 
 #include <QAccessibleWidget>
 #include <QHelpEvent>
@@ -43,6 +44,7 @@ LMStoredWindowPickerView::LMStoredWindowPickerView(const LMLogger& logger, QWidg
     : QWidget(parent), m_keyboard(logger) {
     QAccessible::installFactory(makeCellInterface);
     setObjectName(QStringLiteral("storedWindowPickerView"));
+    setAccessibleName(LMLocalized("Stored windows"));
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
 }
@@ -53,6 +55,7 @@ LMStoredWindowPickerView::~LMStoredWindowPickerView() = default;
 
 void LMStoredWindowPickerView::setWindows(const QList<LMPickableWindow>& windows) {
     m_windows = windows;
+    setAccessibleDescription(shownNote());
     setUpSubviews();
 }
 
@@ -65,12 +68,16 @@ void LMStoredWindowPickerView::setUsableFrame(const QRectF& usableFrame) {
 
 void LMStoredWindowPickerView::setNote(const QString& note) {
     m_note = LMPresentableLine(note);
-    setAccessibleDescription(m_note);
+    setAccessibleDescription(shownNote());
     update();
 }
 
+QString LMStoredWindowPickerView::shownNote() const {
+    return m_windows.isEmpty() ? m_note : QString();
+}
+
 void LMStoredWindowPickerView::paintEvent(QPaintEvent*) {
-    if (!m_windows.isEmpty() || m_note.isEmpty())
+    if (shownNote().isEmpty())
         return;
     QPainter painter(this);
     if (const auto* overlay = qobject_cast<LMFullscreenWindow*>(window()))

@@ -69,11 +69,12 @@ private:
     LMPickerGrid grid() const { return LMPickerGrid(m_windows.size(), m_usableFrame); }
     void setUpSubviews();
     LMStoredWindowPickerWindowView* windowViewAt(const QPointF& place) const;
+    QString shownNote() const;
     void highlight(LMStoredWindowPickerWindowView* windowView);
     void showWholeLabel(const QPoint& globalPlace);
 
     QList<LMPickableWindow> m_windows;
-    QString m_note;
+    QString m_note; ///< Shown in place of windows.
     QRectF m_usableFrame;
     QList<LMStoredWindowPickerWindowView*> m_windowViews; ///< Children.
     LMStoredWindowPickerWindowView* m_highlighted = nullptr;
