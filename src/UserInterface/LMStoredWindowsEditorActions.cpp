@@ -7,6 +7,7 @@
 #include "UserInterface/Editing/LMStoredWindowsEditorWindow.h"
 #include "UserInterface/Editing/LMTableView.h"
 #include "UserInterface/LMAlertWindow.h"
+#include "UserInterface/LMMissedInput.h"
 #include "UserInterface/LMStoredWindowsEditor.h"
 #include "Utilities/LMFormat.h"
 
@@ -91,6 +92,7 @@ void LMStoredWindowsEditor::runAction() {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     action->run();
     QGuiApplication::restoreOverrideCursor();
+    LMMissedInput::drop();
     // Running may have completed the script.
     saveWindows();
 }
