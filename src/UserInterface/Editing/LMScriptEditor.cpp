@@ -6,23 +6,45 @@
 #include "Platform/LMScriptHost.h"
 #include "Utilities/LMFormat.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QStackedLayout>
+#include <QTextBlock>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
 
 constexpr int ShortestEditor = 4; // lines
 constexpr int Rest = 2000;        // milliseconds
+constexpr int ShownPart = 2000;   // characters
+
+/// Takes nothing that it could not be edited with.
+class ScriptView final : public QPlainTextEdit {
+public:
+    using QPlainTextEdit::QPlainTextEdit;
+
+protected:
+    void insertFromMimeData(const QMimeData* source) override {
+        const QString text = source->text();
+        const qsizetype present = document()->characterCount();
+        if (present + text.size() <= LMScriptEditor::LongestText &&
+            LMScriptEditor::canEdit(text, textCursor().block().length()))
+            QPlainTextEdit::insertFromMimeData(source);
+        else
+            QApplication::beep();
+    }
+};
 
 /// The text as it was set: what the widget itself hands out has plain blanks for fixed ones.
 QString plainText(const QPlainTextEdit& editor) {
@@ -44,18 +66,16 @@ LMScriptEditor::LMScriptEditor(LMObjectContext& context, LMScriptHost* scriptHos
     : QWidget(parent), m_context(context), m_scriptHost(scriptHost),
       m_shellScriptEditor(makeTextView(LMLocalized("Shell script"))),
       m_appleScriptEditor(makeTextView(LMLocalized("AppleScript"))),
-      m_placeholder(new QStackedLayout(this)) {
+      m_lengthNotice(new QLabel(this)), m_placeholder(new QStackedLayout) {
     setFocusPolicy(Qt::ClickFocus); // On behalf of the text; without any no label leads here.
-    m_placeholder->setContentsMargins(0, 0, 0, 0);
-    m_placeholder->addWidget(m_shellScriptEditor);
-    m_placeholder->addWidget(makeAppleScriptView());
+    makeLayout();
     m_restTimer.setSingleShot(true);
     connect(&m_restTimer, &QTimer::timeout, this, &LMScriptEditor::endEditing);
     updateActionEditorView(nullptr);
 }
 
 QPlainTextEdit* LMScriptEditor::makeTextView(const QString& name) {
-    auto* editor = new QPlainTextEdit(this);
+    auto* editor = new ScriptView(this);
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     font.setPointSizeF(editor->font().pointSizeF());
     editor->setFont(font);
@@ -92,6 +112,32 @@ QWidget* LMScriptEditor::makeAppleScriptView() {
     return view;
 }
 
+void LMScriptEditor::makeLayout() {
+    m_lengthNotice->setTextFormat(Qt::PlainText);
+    m_lengthNotice->setWordWrap(true);
+    m_lengthNotice->setText(LMLocalized("This is the beginning of a script that is too long to be "
+                                        "edited here. It runs as a whole."));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(m_placeholder, 1);
+    layout->addWidget(m_lengthNotice);
+    m_placeholder->addWidget(m_shellScriptEditor);
+    m_placeholder->addWidget(makeAppleScriptView());
+}
+
+bool LMScriptEditor::canEdit(QStringView text, qsizetype lineBefore) {
+    if (text.size() > LongestText)
+        return false;
+    qsizetype length = lineBefore;
+    return std::all_of(text.begin(), text.end(), [&length](QChar character) {
+        const bool isBreak = character == u'\n' || character == u'\r' ||
+                             character == QChar::ParagraphSeparator ||
+                             character == QChar::LineSeparator;
+        length = isBreak ? 0 : length + 1;
+        return length <= LongestLine;
+    });
+}
+
 QWidget* LMScriptEditor::currentActionEditorView() const {
     return m_placeholder->currentWidget();
 }
@@ -102,6 +148,10 @@ void LMScriptEditor::updateActionEditorView(const LMAction* action) {
     m_placeholder->setCurrentIndex(isAppleScript ? 1 : 0);
     setFocusProxy(shown);
     m_compileButton->setVisible(isAppleScript);
+    // Whoever types at it goes on.
+    m_isWhole =
+        !action || (m_isWhole && action->objectID() == m_action) || canEdit(action->script());
+    m_lengthNotice->setVisible(!m_isWhole);
     show(nullptr, isAppleScript ? m_shellScriptEditor : m_appleScriptEditor);
     show(action, shown);
     m_action = action ? action->objectID() : LMObjectID();
@@ -109,7 +159,8 @@ void LMScriptEditor::updateActionEditorView(const LMAction* action) {
 
 void LMScriptEditor::show(const LMAction* action, QPlainTextEdit* editor) {
     const QScopedValueRollback loading(m_isLoading, true);
-    const QString text = action ? withPlainLineBreaks(action->script()) : QString();
+    const QString script = action ? action->script() : QString();
+    const QString text = withPlainLineBreaks(m_isWhole ? script : script.left(ShownPart));
     const bool isSameAction = action && action->objectID() == m_action;
     const int position = isSameAction ? editor->textCursor().position() : 0;
     if (plainText(*editor) != text) {
@@ -118,7 +169,7 @@ void LMScriptEditor::show(const LMAction* action, QPlainTextEdit* editor) {
         cursor.setPosition(std::min(position, int(text.size())));
         editor->setTextCursor(cursor);
     }
-    editor->setReadOnly(action == nullptr);
+    editor->setReadOnly(!action || !m_isWhole);
     editor->setEnabled(action != nullptr);
 }
 

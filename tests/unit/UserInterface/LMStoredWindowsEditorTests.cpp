@@ -20,6 +20,7 @@
 #include "Utilities/LMNotificationCenter.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -341,6 +342,42 @@ TEST_F(StoredWindowsEditor, RunsActionsAndShowsWhatBecameOfTheirScripts) {
     EXPECT_TRUE(QFile::exists(file));
     EXPECT_EQ(script().toPlainText(), u"#!/bin/bash\n\necho yes > '%1'"_s.arg(file));
     EXPECT_FALSE(context.hasChanges());
+    // What was pressed meanwhile does nothing, what is pressed later does.
+    const auto pressDelete = [this] {
+        QTest::keyClick(&actions(), Qt::Key_Delete);
+        return scripts().empty();
+    };
+    EXPECT_FALSE(pressDelete());
+    EXPECT_TRUE(QTest::qWaitFor(pressDelete));
+}
+
+TEST_F(StoredWindowsEditor, ShowsOnlyTheBeginningOfScriptsThatAreTooLongToEdit) {
+    const QString line(LMScriptEditor::LongestLine, u'x');
+    const struct {
+        QString script;
+        bool isEdited;
+    } rows[] = {
+        {line, true},
+        {line + u"\n"_s + line, true},
+        {line + u"y"_s, false},
+        {QString(LMScriptEditor::LongestText + 1, u'\n'), false},
+    };
+    for (const auto& row : rows) {
+        editor.addAction(9);
+        auto* action = scripts().back();
+        action->setScript(row.script);
+        editor.reloadTableViews();
+        editor.reloadTableViews();
+        select(actions(), 0);
+        select(actions(), int(scripts().size()) - 1);
+        EXPECT_LE(script().toPlainText().size(), row.isEdited ? row.script.size() : 2000);
+        script().moveCursor(QTextCursor::End);
+        QTest::keyClicks(&script(), u"z"_s);
+        EXPECT_EQ(action->script(), row.isEdited ? row.script + u"z"_s : row.script);
+        QGuiApplication::clipboard()->setText(row.script);
+        script().paste();
+        EXPECT_EQ(action->script(), row.isEdited ? row.script + u"z"_s : row.script);
+    }
 }
 
 TEST_F(StoredWindowsEditor, ImportsTextAndSaysWhatItCannotImport) {
