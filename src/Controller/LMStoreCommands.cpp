@@ -12,11 +12,24 @@
 #include "Model/LMStoredWindowsStore.h"
 #include "Model/LMWindow.h"
 #include "Model/LMWorkspace.h"
+#include "Platform/LMDesktop.h"
 #include "Platform/LMEnvironment.h"
 #include "Utilities/LMFormat.h"
+#include "Utilities/LMUserDefaults.h"
 #include "Utilities/LMUserDefaultsKeys.h"
 
 namespace Keys = LMUserDefaultsKeys;
+
+namespace {
+
+/// The progress window covers what is about to be pictured.
+LMKeptPictures keepPictures(LMEnvironment& environment) {
+    return environment.userDefaults.boolForKey(Keys::CreateScreenshotsWhenStoringWindows)
+               ? environment.desktop.windowServer().keepPictures()
+               : LMKeptPictures();
+}
+
+} // namespace
 
 bool LMStoreCommands::canStoreActiveApplicationWindows() const {
     const auto& active = m_parts.frontmostApplication.frontmostApplication();
@@ -83,6 +96,7 @@ LMCommandResult LMStoreCommands::storeActiveApplicationWindows(bool overwrite,
     if (!workspace)
         return LMCommandResult::refused(LMRefusal::noCurrentWorkspace());
     {
+        const LMKeptPictures pictures = keepPictures(m_parts.environment);
         LMProgressScope scope(m_parts.userInterface, label, true);
         LMReplacement replacement(m_parts.environment, *workspace, scope.progress());
         workspace->storeWindowsForApplication(active.bundleIdentifier);
@@ -197,6 +211,7 @@ LMCommandResult LMStoreCommands::storeAllWindows(bool overwrite, bool withConfir
     if (!workspace)
         return LMCommandResult::refused(LMRefusal::noCurrentWorkspace());
     {
+        const LMKeptPictures pictures = keepPictures(m_parts.environment);
         LMProgressScope scope(m_parts.userInterface, label, false);
         LMReplacement replacement(m_parts.environment, *workspace, scope.progress());
         workspace->storeWindowsWithProgressWindowController(replacement);

@@ -72,9 +72,26 @@ xcb_window_t LMX11WindowServer::topLevelOf(xcb_window_t window) {
     }
 }
 
+bool LMX11WindowServer::canKeepPictures() const {
+    return m_connection.composite() && m_connection.composite()->isAtLeast(0, 2);
+}
+
+LMKeptPictures LMX11WindowServer::keepPictures() {
+    if (!canKeepPictures())
+        return {};
+    constexpr auto ShownByServer = XCB_COMPOSITE_REDIRECT_AUTOMATIC;
+    xcb_composite_redirect_subwindows(m_connection.xcb(), m_connection.root(), ShownByServer);
+    m_connection.flush();
+    return {&m_connection, [](LMX11Connection* connection) {
+                xcb_composite_unredirect_subwindows(connection->xcb(), connection->root(),
+                                                    ShownByServer);
+                connection->flush();
+            }};
+}
+
 /// The server keeps the whole content of a window that is redirected, and only of such a one.
 QImage LMX11WindowServer::redirectedImage(const LMX11Window& window) {
-    if (!m_connection.composite() || !m_connection.composite()->isAtLeast(0, 2))
+    if (!canKeepPictures())
         return {};
     xcb_connection_t* xcb = m_connection.xcb();
     const xcb_window_t topLevel = topLevelOf(window.identifier);

@@ -24,7 +24,12 @@ public:
     /// Under a compositing manager the whole window, else what is visible at its place.
     QImage imageOfWindow(quint32 number) override;
 
+    /// Has the server draw all windows aside and show them as before; nothing more than what it
+    /// does anyway under a compositing manager.
+    LMKeptPictures keepPictures() override;
+
 private:
+    bool canKeepPictures() const;
     quint32 currentDesktop();
     xcb_window_t topLevelOf(xcb_window_t window);
     QImage redirectedImage(const LMX11Window& window);
