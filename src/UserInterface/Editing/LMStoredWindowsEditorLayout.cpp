@@ -13,6 +13,8 @@
 #include "Utilities/LMFormat.h"
 
 #include <QAction>
+#include <QCloseEvent>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -72,6 +74,28 @@ QSplitter* makeSplitter(Qt::Orientation orientation, QList<QWidget*> panes, QLis
         splitter->setStretchFactor(index, sizes[index]);
     return splitter;
 }
+
+/// Keys that follow fast on the one that chooses an entry are still sent to the menu, which is
+/// closed by then: they are meant for what the entry has opened.
+class PassingMenu final : public QMenu {
+public:
+    using QMenu::QMenu;
+
+protected:
+    /// Closing destroys the window of the platform, and the toolkit drops what is sent to it.
+    void closeEvent(QCloseEvent* event) override {
+        hide();
+        event->ignore();
+    }
+
+    bool event(QEvent* event) override {
+        const bool isKey = event->type() == QEvent::KeyPress ||
+                           event->type() == QEvent::KeyRelease ||
+                           event->type() == QEvent::ShortcutOverride;
+        QWidget* next = isKey && !isVisible() ? parentWidget()->window()->focusWidget() : nullptr;
+        return next ? QCoreApplication::sendEvent(next, event) : QMenu::event(event);
+    }
+};
 
 } // namespace
 
@@ -191,7 +215,7 @@ void LMStoredWindowsEditorWindow::makeButtons(QUndoStack& undoStack) {
 
     m_addActionButton = new QPushButton(LMLocalized("&Add"), this);
     m_addActionButton->setAccessibleName(LMLocalized("Add Action"));
-    auto* menu = new QMenu(m_addActionButton);
+    auto* menu = new PassingMenu(m_addActionButton);
     const auto add = [this, menu](const QIcon& icon, const QString& text, int tag) {
         connect(menu->addAction(icon, text), &QAction::triggered, this,
                 [this, tag] { Q_EMIT addActionRequested(tag); });
