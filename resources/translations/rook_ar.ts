@@ -752,6 +752,7 @@ Run “rook --help” for more information.</source>
     </message>
     <message>
         <location filename="../../src/Model/LMStoredWindow.cpp"/>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
         <source>No title</source>
         <translation>بلا عنوان</translation>
     </message>
@@ -1301,6 +1302,7 @@ Please visit the Rook web site and download the latest version of Rook.</source>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMApplicationsModel.cpp"/>
+        <location filename="../../src/UserInterface/LMStoredWindowsListWindow.cpp"/>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>Name</source>
         <translation>الاسم</translation>
@@ -1347,6 +1349,11 @@ Please visit the Rook web site and download the latest version of Rook.</source>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMScriptEditor.cpp"/>
+        <source>This is the beginning of a script that is too long to be edited here. It runs as a whole.</source>
+        <translation>هذه بداية سكربت أطول من أن يُحرَّر هنا. وهو يُنفَّذ كاملًا.</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMScriptEditor.cpp"/>
         <source>The script compiles.</source>
         <translation>السكربت قابل للترجمة.</translation>
     </message>
@@ -1383,6 +1390,7 @@ Please visit the Rook web site and download the latest version of Rook.</source>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
+        <location filename="../../src/UserInterface/WindowLinking/LMStoredWindowPickerView.cpp"/>
         <source>Stored windows</source>
         <translation>النوافذ المحفوظة</translation>
     </message>
@@ -1530,6 +1538,16 @@ Please visit the Rook web site and download the latest version of Rook.</source>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
         <source>%@ × %@ at %@, %@</source>
         <translation>%@ × %@ عند %@، %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
+        <source>No label</source>
+        <translation>بلا تسمية</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
+        <source>No title pattern</source>
+        <translation>بلا نمط عنوان</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
@@ -1906,6 +1924,11 @@ Arrange your windows and choose “Store All Windows”.</source>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
+        <source>Same displays</source>
+        <translation>الشاشات نفسها</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>Other displays</source>
         <translation>شاشات أخرى</translation>
     </message>
@@ -1918,6 +1941,11 @@ Arrange your windows and choose “Store All Windows”.</source>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>The attached displays can be arranged like these.</source>
         <translation>يمكن ترتيب الشاشات المتصلة مثل هذه.</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
+        <source>The attached displays stand like these, too, but the current configuration is older and is the one that is used.</source>
+        <translation>الشاشات المتصلة مرتبة مثل هذه أيضًا، لكن الإعداد الحالي أقدم وهو المستخدم.</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>

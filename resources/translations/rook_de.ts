@@ -752,6 +752,7 @@ Mehr erfahren Sie mit „rook --help“.</translation>
     </message>
     <message>
         <location filename="../../src/Model/LMStoredWindow.cpp"/>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
         <source>No title</source>
         <translation>Kein Titel</translation>
     </message>
@@ -1301,6 +1302,7 @@ Bitte besuchen Sie die Website von Rook und laden Sie die neueste Version herunt
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMApplicationsModel.cpp"/>
+        <location filename="../../src/UserInterface/LMStoredWindowsListWindow.cpp"/>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>Name</source>
         <translation>Name</translation>
@@ -1347,6 +1349,11 @@ Bitte besuchen Sie die Website von Rook und laden Sie die neueste Version herunt
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMScriptEditor.cpp"/>
+        <source>This is the beginning of a script that is too long to be edited here. It runs as a whole.</source>
+        <translation>Dies ist der Anfang eines Skripts, das zu lang ist, um hier bearbeitet zu werden. Es läuft als Ganzes.</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMScriptEditor.cpp"/>
         <source>The script compiles.</source>
         <translation>Das Skript lässt sich kompilieren.</translation>
     </message>
@@ -1383,6 +1390,7 @@ Bitte besuchen Sie die Website von Rook und laden Sie die neueste Version herunt
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
+        <location filename="../../src/UserInterface/WindowLinking/LMStoredWindowPickerView.cpp"/>
         <source>Stored windows</source>
         <translation>Gespeicherte Fenster</translation>
     </message>
@@ -1530,6 +1538,16 @@ Bitte besuchen Sie die Website von Rook und laden Sie die neueste Version herunt
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
         <source>%@ × %@ at %@, %@</source>
         <translation>%@ × %@ bei %@, %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
+        <source>No label</source>
+        <translation>Keine Bezeichnung</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
+        <source>No title pattern</source>
+        <translation>Kein Titelmuster</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
@@ -1906,6 +1924,11 @@ Ordnen Sie Ihre Fenster an und wählen Sie „Alle Fenster speichern“.</transl
     </message>
     <message>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
+        <source>Same displays</source>
+        <translation>Gleiche Bildschirme</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>Other displays</source>
         <translation>Andere Bildschirme</translation>
     </message>
@@ -1918,6 +1941,11 @@ Ordnen Sie Ihre Fenster an und wählen Sie „Alle Fenster speichern“.</transl
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>The attached displays can be arranged like these.</source>
         <translation>Die angeschlossenen Bildschirme lassen sich wie diese anordnen.</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
+        <source>The attached displays stand like these, too, but the current configuration is older and is the one that is used.</source>
+        <translation>Die angeschlossenen Bildschirme stehen auch wie diese, aber die aktuelle Anordnung ist älter, und sie wird verwendet.</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>

@@ -752,6 +752,7 @@ Ejecute «rook --help» para obtener más información.</translation>
     </message>
     <message>
         <location filename="../../src/Model/LMStoredWindow.cpp"/>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
         <source>No title</source>
         <translation>Sin título</translation>
     </message>
@@ -1301,6 +1302,7 @@ Visite el sitio web de Rook y descargue la última versión.</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMApplicationsModel.cpp"/>
+        <location filename="../../src/UserInterface/LMStoredWindowsListWindow.cpp"/>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>Name</source>
         <translation>Nombre</translation>
@@ -1347,6 +1349,11 @@ Visite el sitio web de Rook y descargue la última versión.</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMScriptEditor.cpp"/>
+        <source>This is the beginning of a script that is too long to be edited here. It runs as a whole.</source>
+        <translation>Este es el comienzo de un script demasiado largo para editarlo aquí. Se ejecuta entero.</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMScriptEditor.cpp"/>
         <source>The script compiles.</source>
         <translation>El script se compila.</translation>
     </message>
@@ -1383,6 +1390,7 @@ Visite el sitio web de Rook y descargue la última versión.</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
+        <location filename="../../src/UserInterface/WindowLinking/LMStoredWindowPickerView.cpp"/>
         <source>Stored windows</source>
         <translation>Ventanas guardadas</translation>
     </message>
@@ -1530,6 +1538,16 @@ Visite el sitio web de Rook y descargue la última versión.</translation>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
         <source>%@ × %@ at %@, %@</source>
         <translation>%@ × %@ en %@, %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
+        <source>No label</source>
+        <translation>Sin etiqueta</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
+        <source>No title pattern</source>
+        <translation>Sin patrón de título</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
@@ -1906,6 +1924,11 @@ Coloque sus ventanas y elija «Guardar todas las ventanas».</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
+        <source>Same displays</source>
+        <translation>Mismas pantallas</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>Other displays</source>
         <translation>Otras pantallas</translation>
     </message>
@@ -1918,6 +1941,11 @@ Coloque sus ventanas y elija «Guardar todas las ventanas».</translation>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>The attached displays can be arranged like these.</source>
         <translation>Las pantallas conectadas se pueden colocar como estas.</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
+        <source>The attached displays stand like these, too, but the current configuration is older and is the one that is used.</source>
+        <translation>Las pantallas conectadas también están colocadas como estas, pero la configuración actual es más antigua y es la que se usa.</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>

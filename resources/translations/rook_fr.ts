@@ -752,6 +752,7 @@ Pour en savoir plus, exécutez « rook --help ».</translation>
     </message>
     <message>
         <location filename="../../src/Model/LMStoredWindow.cpp"/>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
         <source>No title</source>
         <translation>Sans titre</translation>
     </message>
@@ -1301,6 +1302,7 @@ Veuillez consulter le site web de Rook et télécharger la dernière version.</t
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMApplicationsModel.cpp"/>
+        <location filename="../../src/UserInterface/LMStoredWindowsListWindow.cpp"/>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>Name</source>
         <translation>Nom</translation>
@@ -1347,6 +1349,11 @@ Veuillez consulter le site web de Rook et télécharger la dernière version.</t
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMScriptEditor.cpp"/>
+        <source>This is the beginning of a script that is too long to be edited here. It runs as a whole.</source>
+        <translation>Ceci est le début d’un script trop long pour être modifié ici. Il s’exécute en entier.</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMScriptEditor.cpp"/>
         <source>The script compiles.</source>
         <translation>Le script se compile.</translation>
     </message>
@@ -1383,6 +1390,7 @@ Veuillez consulter le site web de Rook et télécharger la dernière version.</t
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
+        <location filename="../../src/UserInterface/WindowLinking/LMStoredWindowPickerView.cpp"/>
         <source>Stored windows</source>
         <translation>Fenêtres mémorisées</translation>
     </message>
@@ -1530,6 +1538,16 @@ Veuillez consulter le site web de Rook et télécharger la dernière version.</t
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
         <source>%@ × %@ at %@, %@</source>
         <translation>%@ × %@ en %@, %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
+        <source>No label</source>
+        <translation>Aucun libellé</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
+        <source>No title pattern</source>
+        <translation>Aucun motif de titre</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
@@ -1906,6 +1924,11 @@ Disposez vos fenêtres et choisissez « Mémoriser toutes les fenêtres ».</t
     </message>
     <message>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
+        <source>Same displays</source>
+        <translation>Mêmes écrans</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>Other displays</source>
         <translation>Autres écrans</translation>
     </message>
@@ -1918,6 +1941,11 @@ Disposez vos fenêtres et choisissez « Mémoriser toutes les fenêtres ».</t
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>The attached displays can be arranged like these.</source>
         <translation>Les écrans branchés peuvent être disposés comme ceux-ci.</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
+        <source>The attached displays stand like these, too, but the current configuration is older and is the one that is used.</source>
+        <translation>Les écrans branchés sont aussi disposés comme ceux-ci, mais la configuration actuelle est plus ancienne et c’est elle qui sert.</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>

@@ -752,6 +752,7 @@ Run “rook --help” for more information.</source>
     </message>
     <message>
         <location filename="../../src/Model/LMStoredWindow.cpp"/>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
         <source>No title</source>
         <translation>タイトルなし</translation>
     </message>
@@ -1301,6 +1302,7 @@ Rook の Web サイトから最新バージョンをダウンロードしてく�
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMApplicationsModel.cpp"/>
+        <location filename="../../src/UserInterface/LMStoredWindowsListWindow.cpp"/>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>Name</source>
         <translation>名前</translation>
@@ -1347,6 +1349,11 @@ Rook の Web サイトから最新バージョンをダウンロードしてく�
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMScriptEditor.cpp"/>
+        <source>This is the beginning of a script that is too long to be edited here. It runs as a whole.</source>
+        <translation>これは、ここで編集するには長すぎるスクリプトの冒頭です。実行されるのは全体です。</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMScriptEditor.cpp"/>
         <source>The script compiles.</source>
         <translation>スクリプトはコンパイルできます。</translation>
     </message>
@@ -1383,6 +1390,7 @@ Rook の Web サイトから最新バージョンをダウンロードしてく�
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
+        <location filename="../../src/UserInterface/WindowLinking/LMStoredWindowPickerView.cpp"/>
         <source>Stored windows</source>
         <translation>保存済みウィンドウ</translation>
     </message>
@@ -1530,6 +1538,16 @@ Rook の Web サイトから最新バージョンをダウンロードしてく�
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
         <source>%@ × %@ at %@, %@</source>
         <translation>%@ × %@ (%@, %@)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
+        <source>No label</source>
+        <translation>ラベルなし</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
+        <source>No title pattern</source>
+        <translation>タイトルパターンなし</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
@@ -1906,6 +1924,11 @@ Arrange your windows and choose “Store All Windows”.</source>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
+        <source>Same displays</source>
+        <translation>同じディスプレイ</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>Other displays</source>
         <translation>別のディスプレイ</translation>
     </message>
@@ -1918,6 +1941,11 @@ Arrange your windows and choose “Store All Windows”.</source>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>The attached displays can be arranged like these.</source>
         <translation>接続されているディスプレイをこのように並べられます。</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
+        <source>The attached displays stand like these, too, but the current configuration is older and is the one that is used.</source>
+        <translation>接続されているディスプレイはこの並びでもありますが、現在の構成のほうが古く、そちらが使われます。</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
