@@ -22,7 +22,8 @@ LOOKS = (
     ("link-window", (), "Rook Window Picker", "frame", {"first shell": "push button"}),
     ("show", (), "Stored Windows", "frame", {"Displays": "image", "Rename": "push button"}),
     (None, ("Delete",), "Rook", "dialog", {"Delete display configuration": "label", "Cancel": "push button"}),
-    (None, ("Escape", "Return"), "2 Displays", "frame",
+    (None, ("Escape",), "Stored Windows", "frame", {"Make Active": "push button"}),
+    (None, ("Return",), "2 Displays", "frame",
      {"Applications": "table", "XTerm": "table cell", "No title pattern": "table cell", "Add Action": "push button",
       "Picture of the stored window": "image", "Shell script": "text"}),
     ("preferences", (), "Preferences", "frame", {"Start Rook at login": "check box", "Hot Keys": "page tab"}),
@@ -52,8 +53,9 @@ class Accessibility(unittest.TestCase):
                     self.rook.do(command)
                 for key in keys:
                     self.desktop.probe.tool("xdotool", "key", key)
-                expected = {(window, role), *parts.items()}
-                wait_until(lambda: expected <= {(found["name"], found["role"]) for found in self.objects(window)},
+                expected = {(window, role, True), *((name, part, False) for name, part in parts.items())}
+                wait_until(lambda: expected <= {(found["name"], found["role"], "active" in found["states"])
+                                                for found in self.objects(window)},
                            f"{expected} among {self.objects(window)}", 20.0)
                 for found in self.objects(window):
                     if "focusable" in found["states"]:

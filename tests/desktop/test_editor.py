@@ -57,9 +57,9 @@ class Editor(unittest.TestCase):
 
     def drag_first_window_to_the_end(self) -> None:
         x, y, *_ = self.probe.frame(self.editor)
-        self.probe.tool("xdotool", "mousemove", str(x + 500), str(y + 90), "mousedown", "1")
+        self.probe.tool("xdotool", "mousemove", str(x + 500), str(y + 98), "mousedown", "1")
         for step in range(1, 7):
-            self.probe.tool("xdotool", "mousemove", str(x + 500), str(y + 90 + 25 * step))
+            self.probe.tool("xdotool", "mousemove", str(x + 500), str(y + 98 + 25 * step))
         self.probe.tool("xdotool", "mouseup", "1")
 
     # Looking
