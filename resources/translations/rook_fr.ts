@@ -1495,12 +1495,12 @@ Veuillez consulter le site web de Rook et télécharger la dernière version.</t
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
         <source>Und&amp;o %@</source>
-        <translation>A&amp;nnuler « %@ »</translation>
+        <translation>Ann&amp;uler « %@ »</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
         <source>Und&amp;o</source>
-        <translation>A&amp;nnuler</translation>
+        <translation>Ann&amp;uler</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
@@ -1515,7 +1515,7 @@ Veuillez consulter le site web de Rook et télécharger la dernière version.</t
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
         <source>A&amp;ctions</source>
-        <translation>Ac&amp;tions</translation>
+        <translation>Actio&amp;ns</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
