@@ -1350,7 +1350,7 @@ Please visit the Rook web site and download the latest version of Rook.</source>
     <message>
         <location filename="../../src/UserInterface/Editing/LMScriptEditor.cpp"/>
         <source>This is the beginning of a script that is too long to be edited here. It runs as a whole.</source>
-        <translation>هذه بداية سكربت أطول من أن يُحرَّر هنا. وهو يُنفَّذ كاملًا.</translation>
+        <translation>هذه بداية سكربت أطول من أن يُحرَّر هنا. سيعمل كاملًا.</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMScriptEditor.cpp"/>
@@ -1945,7 +1945,7 @@ Arrange your windows and choose “Store All Windows”.</source>
     <message>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>The attached displays stand like these, too, but the current configuration is older and is the one that is used.</source>
-        <translation>الشاشات المتصلة مرتبة مثل هذه أيضًا، لكن الإعداد الحالي أقدم وهو المستخدم.</translation>
+        <translation>الشاشات المتصلة مرتّبة مثل هذه أيضًا، لكن الإعداد الحالي أقدم وهو المستخدم.</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>

@@ -1350,7 +1350,7 @@ Bitte besuchen Sie die Website von Rook und laden Sie die neueste Version herunt
     <message>
         <location filename="../../src/UserInterface/Editing/LMScriptEditor.cpp"/>
         <source>This is the beginning of a script that is too long to be edited here. It runs as a whole.</source>
-        <translation>Dies ist der Anfang eines Skripts, das zu lang ist, um hier bearbeitet zu werden. Es läuft als Ganzes.</translation>
+        <translation>Dies ist der Anfang eines Skripts, das zu lang ist, um es hier zu bearbeiten. Es läuft als Ganzes.</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMScriptEditor.cpp"/>
@@ -1945,7 +1945,7 @@ Ordnen Sie Ihre Fenster an und wählen Sie „Alle Fenster speichern“.</transl
     <message>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>The attached displays stand like these, too, but the current configuration is older and is the one that is used.</source>
-        <translation>Die angeschlossenen Bildschirme stehen auch wie diese, aber die aktuelle Anordnung ist älter, und sie wird verwendet.</translation>
+        <translation>Die angeschlossenen Bildschirme stehen auch wie diese, aber die aktuelle Anordnung ist älter und wird benutzt.</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>

@@ -1547,7 +1547,7 @@ Visite el sitio web de Rook y descargue la última versión.</translation>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
         <source>No title pattern</source>
-        <translation>Sin patrón de título</translation>
+        <translation>Sin patrón del título</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>

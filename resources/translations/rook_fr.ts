@@ -1542,12 +1542,12 @@ Veuillez consulter le site web de Rook et télécharger la dernière version.</t
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
         <source>No label</source>
-        <translation>Aucun libellé</translation>
+        <translation>Sans libellé</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
         <source>No title pattern</source>
-        <translation>Aucun motif de titre</translation>
+        <translation>Sans motif du titre</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
@@ -1945,7 +1945,7 @@ Disposez vos fenêtres et choisissez « Mémoriser toutes les fenêtres ».</t
     <message>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>The attached displays stand like these, too, but the current configuration is older and is the one that is used.</source>
-        <translation>Les écrans branchés sont aussi disposés comme ceux-ci, mais la configuration actuelle est plus ancienne et c’est elle qui sert.</translation>
+        <translation>Les écrans branchés sont aussi disposés comme ceux-ci, mais la configuration actuelle est plus ancienne et c’est elle qui est utilisée.</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>

@@ -1350,7 +1350,7 @@ Rook の Web サイトから最新バージョンをダウンロードしてく�
     <message>
         <location filename="../../src/UserInterface/Editing/LMScriptEditor.cpp"/>
         <source>This is the beginning of a script that is too long to be edited here. It runs as a whole.</source>
-        <translation>これは、ここで編集するには長すぎるスクリプトの冒頭です。実行されるのは全体です。</translation>
+        <translation>これは長すぎてここでは編集できないスクリプトの先頭部分です。実行時には全体が実行されます。</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMScriptEditor.cpp"/>
@@ -1945,7 +1945,7 @@ Arrange your windows and choose “Store All Windows”.</source>
     <message>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>The attached displays stand like these, too, but the current configuration is older and is the one that is used.</source>
-        <translation>接続されているディスプレイはこの並びでもありますが、現在の構成のほうが古く、そちらが使われます。</translation>
+        <translation>接続されているディスプレイはこのようにも並んでいますが、より古い現在の構成が使用されます。</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
