@@ -12,7 +12,7 @@ struct LMWindowState {
     bool isMaximizedHorizontally = false;
     bool isMaximizedVertically = false;
     bool isFullscreen = false;
-    bool isMinimized = false;
+    bool isMinimized = false; ///< Not told of a shaded window.
     bool isShaded = false;
     bool isKeptAbove = false;
     bool isKeptBelow = false;
@@ -21,7 +21,8 @@ struct LMWindowState {
     std::optional<int> desktop{};
     QString desktopName{}; ///< Empty where desktops have no names.
     /// The frame that a maximised or fullscreen window returns to, global pixels like a frame.
-    /// Absent for other windows, and where nobody knows it: no standard tells.
+    /// Absent for other windows, and where nobody knows it: no standard tells. That of a window
+    /// taken to another monitor since is expected there.
     std::optional<QRectF> normalFrame{};
 
     bool isMaximized() const { return isMaximizedHorizontally || isMaximizedVertically; }

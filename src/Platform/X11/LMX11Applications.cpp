@@ -6,6 +6,7 @@
 #include "Platform/X11/LMX11Settings.h"
 #include "Platform/X11/LMX11WindowIcon.h"
 #include "Platform/X11/LMX11WindowManager.h"
+#include "Platform/X11/LMX11WindowReader.h"
 #include "Utilities/LMBaseDirectories.h"
 
 #include <algorithm>
@@ -192,7 +193,7 @@ bool LMX11Applications::unhide(qint64 processIdentifier) {
     const xcb_window_t active = m_index.activeWindow();
     showWithoutFocus(windows);
     if (!minimized(windows).isEmpty()) {
-        // mutter brings minimised windows back with the focus or not at all.
+        // With the focus rather than not at all.
         for (const xcb_window_t window : minimized(windows))
             requestActivation(window);
         waitUntil([&] { return minimized(windows).isEmpty(); }, longestWait);
@@ -204,8 +205,8 @@ bool LMX11Applications::unhide(qint64 processIdentifier) {
     return minimized(windows).isEmpty();
 }
 
-/// openbox and xfwm4 let states be changed, but give the focus to what is mapped; marco and kwin
-/// keep states to themselves, but map without focus.
+/// openbox and xfwm4 let states be changed, but give the focus to what is mapped; marco, kwin and
+/// mutter keep states to themselves, but map without focus.
 void LMX11Applications::showWithoutFocus(const Windows& windows) {
     for (const xcb_window_t window : windows)
         m_windowManager.changeState(window, LMX11WindowManager::Change::Remove,
@@ -215,8 +216,9 @@ void LMX11Applications::showWithoutFocus(const Windows& windows) {
     const Windows remaining = minimized(windows);
     if (remaining.isEmpty())
         return;
-    for (const xcb_window_t window : remaining)
-        xcb_map_window(m_connection.xcb(), window);
+    const LMX11Reading reading = LMX11WindowReader(m_connection).readFrames(remaining);
+    for (const LMX11Window& window : reading.windows)
+        m_windowManager.map(window.identifier, window.desktop);
     m_windowManager.waitUntilCaughtUp(std::chrono::steady_clock::now() + longestWait);
     waitUntil([&] { return minimized(windows).isEmpty(); }, shortWait);
 }

@@ -20,7 +20,8 @@ class LMX11WindowManager;
 ///       relative to a sibling     to the end   -            -           yes         ignores it
 ///
 /// (1) Windows of the active application. Others are to have been used later than the active
-/// window, as their _NET_WM_USER_TIME says.
+/// window, as their _NET_WM_USER_TIME says. Under both, a window of all desktops may be out of
+/// order on desktops that are not in view.
 ///
 /// Hence: windows are lowered; where that does not help, by _NET_RESTACK_WINDOW if it is known,
 /// else as if they had just been used. What is in order already is left alone. xfwm4's active

@@ -34,6 +34,12 @@ bool isReached(const LMX11Window& window, const LMWindowState& wanted,
     return !window.exists || present == wanted;
 }
 
+std::optional<quint32> desktopOf(const LMWindowState& state) {
+    if (state.isOnAllDesktops)
+        return LMX11Window::allDesktops;
+    return state.desktop ? std::optional(quint32(*state.desktop)) : std::nullopt;
+}
+
 } // namespace
 
 LMX11StateSetter::LMX11StateSetter(LMX11Connection& connection, LMX11WindowManager& windowManager)
@@ -84,7 +90,7 @@ void LMX11StateSetter::send(const Task& task, const LMWindowState& is, Means mea
     for (const Change direction : {Change::Remove, Change::Add}) {
         if (direction == Change::Add &&
             (is.desktop != wanted.desktop || is.isOnAllDesktops != wanted.isOnAllDesktops))
-            sendToDesktop(window, wanted);
+            m_windowManager.sendToDesktop(window, desktopOf(wanted).value_or(0));
         changeWhatDiffers(direction, &S::isKeptAbove, atoms._NET_WM_STATE_ABOVE);
         changeWhatDiffers(direction, &S::isKeptBelow, atoms._NET_WM_STATE_BELOW);
         const bool changesWidth = differs(direction, &S::isMaximizedHorizontally);
@@ -106,21 +112,11 @@ void LMX11StateSetter::send(const Task& task, const LMWindowState& is, Means mea
 }
 
 void LMX11StateSetter::show(xcb_window_t window, const LMWindowState& wanted, Means means) {
-    const xcb_ewmh_connection_t& atoms = m_connection.ewmhAtoms();
-    if (means == Means::States) {
-        m_windowManager.changeState(window, Change::Remove, atoms._NET_WM_STATE_HIDDEN);
-        return;
-    }
-    m_windowManager.requestMap(window);
-    if (wanted.desktop || wanted.isOnAllDesktops)
-        sendToDesktop(window, wanted);
-    m_windowManager.changeState(window, Change::Remove, atoms._NET_WM_STATE_DEMANDS_ATTENTION);
-}
-
-void LMX11StateSetter::sendToDesktop(xcb_window_t window, const LMWindowState& wanted) {
-    m_windowManager.sendToDesktop(window, wanted.isOnAllDesktops
-                                              ? LMX11Window::allDesktops
-                                              : quint32(wanted.desktop.value_or(0)));
+    if (means == Means::States)
+        m_windowManager.changeState(window, Change::Remove,
+                                    m_connection.ewmhAtoms()._NET_WM_STATE_HIDDEN);
+    else
+        m_windowManager.map(window, desktopOf(wanted));
 }
 
 /// Waits until the manager has answered, and leaves the tasks that are not done.

@@ -38,6 +38,8 @@ class LMX11WindowManager;
 /// to map it, followed by its desktop. The focus is put back where it was, see LMX11ViewGuard.
 ///
 /// A shaded window counts as not minimised, for marco and mutter call every shaded one hidden.
+/// What a window and its manager agree upon when it leaves a state is theirs: under openbox, Qt's
+/// windows come back from being maximised shifted by their decorations.
 class LMX11StateSetter {
 public:
     /// Both must outlive it.
@@ -63,7 +65,6 @@ private:
 
     void send(const Task& task, const LMWindowState& present, Means means);
     void show(xcb_window_t window, const LMWindowState& wanted, Means means);
-    void sendToDesktop(xcb_window_t window, const LMWindowState& wanted);
     bool settle(Tasks& tasks, const QStringList& desktopNames);
     void waitForRest(bool haveShadows);
     bool waitForChange(Deadline deadline);

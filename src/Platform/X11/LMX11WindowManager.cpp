@@ -144,7 +144,9 @@ void LMX11WindowManager::minimize(xcb_window_t window) {
     changeState(window, Change::Add, m_connection.ewmhAtoms()._NET_WM_STATE_HIDDEN);
 }
 
-void LMX11WindowManager::requestMap(xcb_window_t window) {
+/// Really mapping it would not do: mutter leaves minimised windows mapped, and then the server
+/// passes no request on.
+void LMX11WindowManager::map(xcb_window_t window, std::optional<quint32> desktop) {
     xcb_map_request_event_t event{};
     event.response_type = XCB_MAP_REQUEST;
     event.parent = m_connection.root();
@@ -153,6 +155,9 @@ void LMX11WindowManager::requestMap(xcb_window_t window) {
     std::copy_n(reinterpret_cast<const char*>(&event), sizeof event, buffer.begin());
     xcb_send_event(m_connection.xcb(), 0, m_connection.root(), XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
                    buffer.data());
+    if (desktop)
+        sendToDesktop(window, *desktop);
+    changeState(window, Change::Remove, m_connection.ewmhAtoms()._NET_WM_STATE_DEMANDS_ATTENTION);
 }
 
 void LMX11WindowManager::sendToDesktop(xcb_window_t window, quint32 desktop) {

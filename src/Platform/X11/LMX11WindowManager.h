@@ -39,10 +39,9 @@ public:
                      xcb_atom_t second = XCB_ATOM_NONE);
 
     void minimize(xcb_window_t window);
-    /// As if the client itself mapped the window, which is how a minimised one comes back (ICCCM
-    /// 4.1.4). Mapping it would not do: mutter leaves minimised windows mapped, and then the server
-    /// passes no request on.
-    void requestMap(xcb_window_t window);
+    /// Brings a minimised window back to its virtual desktop as if the client itself mapped it
+    /// (ICCCM 4.1.4), see LMX11StateSetter. openbox and xfwm4 give it the focus.
+    void map(xcb_window_t window, std::optional<quint32> desktop);
     /// A virtual desktop's number, or LMX11Window::allDesktops.
     void sendToDesktop(xcb_window_t window, quint32 desktop);
     /// To the bottom of its layer, as if the client itself asked for it.
