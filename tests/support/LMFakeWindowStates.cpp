@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "support/LMFakeWindowStates.h"
 
+#include "Platform/LMPossibleWindowState.h"
+
 #include <algorithm>
 #include <functional>
 
@@ -74,7 +76,9 @@ LMPlatformStatus LMFakeWindowStates::setState(const LMElement& element,
         return failure(LMPlatformError::InvalidElement);
     if (window->neverAnswers)
         return failure(LMPlatformError::CannotComplete);
-    const LMWindowState state = possible(wanted, window->state);
+    const LMWindowState state =
+        LMPossibleWindowState(wanted, window->state, windowStateSupport(), m_world.desktops.size(),
+                              m_world.currentDesktop);
     if (state == window->state)
         return LMPlatformStatus::success();
     m_world.log.add(u"state \"%1\""_qs.arg(window->title) + words(state));
@@ -82,33 +86,6 @@ LMPlatformStatus LMFakeWindowStates::setState(const LMElement& element,
     if (m_world.focusedWindow == window.key() && !m_world.isInSight(*window))
         m_world.focusFrontWindow();
     return LMPlatformStatus::success();
-}
-
-LMWindowState LMFakeWindowStates::possible(const LMWindowState& wanted,
-                                           const LMWindowState& present) {
-    const LMWindowStateSupport support = windowStateSupport();
-    LMWindowState state = present;
-    const auto take = [&](bool isSupported, bool LMWindowState::*flag) {
-        if (isSupported)
-            state.*flag = wanted.*flag;
-    };
-    take(support.maximized, &LMWindowState::isMaximizedHorizontally);
-    take(support.maximized, &LMWindowState::isMaximizedVertically);
-    take(support.fullscreen, &LMWindowState::isFullscreen);
-    take(support.minimized, &LMWindowState::isMinimized);
-    take(support.shaded, &LMWindowState::isShaded);
-    take(support.above, &LMWindowState::isKeptAbove);
-    take(support.below, &LMWindowState::isKeptBelow);
-    take(support.desktops, &LMWindowState::isOnAllDesktops);
-    if (!support.desktops)
-        return state;
-    if (wanted.desktop && *wanted.desktop >= 0 && *wanted.desktop < m_world.desktops.size())
-        state.desktop = wanted.desktop;
-    if (state.isOnAllDesktops)
-        state.desktop.reset();
-    else if (!state.desktop)
-        state.desktop = m_world.currentDesktop;
-    return state;
 }
 
 QList<LMElement> LMFakeWindowStates::stackingOrder() {

@@ -21,7 +21,6 @@ public:
 
 private:
     LMPlatformStatus setState(const LMElement& element, const LMWindowState& wanted);
-    LMWindowState possible(const LMWindowState& wanted, const LMWindowState& present);
 
     LMFakeWorld& m_world;
     LMFakeAccessibility& m_accessibility;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Platform/X11/LMX11WindowStates.h"
 
+#include "Platform/LMPossibleWindowState.h"
 #include "Platform/X11/LMX11Accessibility.h"
 #include "Platform/X11/LMX11DesktopsRequest.h"
 #include "Platform/X11/LMX11NormalFrames.h"
@@ -73,9 +74,9 @@ QList<LMPlatformStatus> LMX11WindowStates::setStates(const QList<LMWindowStateCh
     m_normalFrames.note(reading);
     QList<LMWindowState> wanted;
     for (qsizetype index = 0; index < changes.size(); ++index)
-        wanted.append(LMX11PossibleState(
+        wanted.append(LMPossibleWindowState(
             changes[index].state, LMX11StateOfWindow(reading.windows[index], reading.desktopNames),
-            support, reading.desktopNames, int(view.currentDesktop())));
+            support, reading.desktopNames.size(), int(view.currentDesktop())));
     const bool isAnswered = support != LMWindowStateSupport() && m_setter.reach(reading, wanted);
     if (isAnswered && m_setter.hasAsked())
         view.restore();
