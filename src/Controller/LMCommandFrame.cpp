@@ -4,6 +4,7 @@
 #include "Categories/LMWorkspaceAdditions.h"
 #include "Controller/LMPermissionCheck.h"
 #include "Controller/LMUserInterface.h"
+#include "Model/LMApplicationActivation.h"
 #include "Model/LMStoredWindowsStore.h"
 #include "Platform/LMDesktop.h"
 #include "Platform/LMEnvironment.h"
@@ -18,8 +19,7 @@ LMCommandFrame::LMCommandFrame(const LMCommandParts& parts, const QString& label
 }
 
 LMCommandResult LMCommandFrame::finish() {
-    if (m_activeAtStart)
-        m_parts.environment.desktop.applications().activate(m_activeAtStart->processIdentifier);
+    LMReactivate(m_parts.environment, m_activeAtStart);
     LMCommandResult result = LMCommandResult::done();
     if (const QString& failure = m_parts.store.saveFailure(); !failure.isEmpty())
         result.refusal =

@@ -14,6 +14,8 @@
 class LMStoredWindow;
 class LMWindow;
 class LMWorkspace;
+class LMStateRestoration;
+class LMWindowArrangement;
 struct LMRestorePlan;
 
 /// One application within a workspace: its stored windows in the user's order, and its live side.
@@ -83,8 +85,12 @@ public:
     void addDefaultTitleMatchPatterns();
 
     // --- storing ------------------------------------------------------------------------------
+    /// Stores the current windows with the states they had in the arrangement: showing them for
+    /// storing may change that. Without one, with the states they have before.
     void storeWindows();
+    void storeWindows(const LMWindowArrangement& arrangement);
     void storeFloatingWindows();
+    void storeFloatingWindows(const LMWindowArrangement& arrangement);
     void removeAllWindows();
     void storeFocusedWindow(LMWindow* window);
     void addMatchingWindow(LMWindow* window, LMStoredWindow* toStoredWindow);
@@ -92,11 +98,14 @@ public:
     // --- restoring ----------------------------------------------------------------------------
     /// What a restore does with the current windows. Moves nothing.
     LMRestorePlan restorePlan();
-    /// Positions, a pause of one second, sizes.
+    /// Positions, a pause of one second, sizes, states, the stacking order.
     void restoreWindows();
-    void restoreWindowPositions();
-    void restoreWindowSizes();
-    void restoreWindowSizesOrPositions(bool positions);
+    /// The same up to the sizes: states and stacking order are the caller's to finish.
+    void restoreWindows(LMStateRestoration& states);
+    /// Each one pass. Without states, the frames alone.
+    void restoreWindowPositions(LMStateRestoration* states = nullptr);
+    void restoreWindowSizes(LMStateRestoration* states = nullptr);
+    void restoreWindowSizesOrPositions(bool positions, LMStateRestoration* states = nullptr);
 
     std::vector<LMManagedObject*> ownedObjects() const override;
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "Model/LMApplicationActivation.h"
 
+#include "Categories/LMWorkspaceAdditions.h"
 #include "Model/LMApplication.h"
 #include "Platform/LMClock.h"
 #include "Platform/LMDesktop.h"
@@ -18,6 +19,15 @@ void LMSleepActivationDelay(LMEnvironment& environment) {
 void LMActivateAndWait(LMEnvironment& environment, qint64 processIdentifier) {
     environment.desktop.applications().activate(processIdentifier);
     LMSleepActivationDelay(environment);
+}
+
+void LMReactivate(LMEnvironment& environment,
+                  const std::optional<LMRunningApplication>& application) {
+    if (!application)
+        return;
+    const auto active = LMWorkspaceAdditions(environment).runningApplication();
+    if (!active || active->bundleIdentifier != application->bundleIdentifier)
+        environment.desktop.applications().activate(application->processIdentifier);
 }
 
 void LMWaitAndHide(LMEnvironment& environment, qint64 processIdentifier) {

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QtGlobal>
+#include "Platform/LMApplications.h"
+
+#include <optional>
 
 struct LMEnvironment;
 
@@ -11,6 +13,11 @@ void LMSleepActivationDelay(LMEnvironment& environment);
 
 /// Activates the application and gives it the time to come up.
 void LMActivateAndWait(LMEnvironment& environment, qint64 processIdentifier);
+
+/// Makes the application active again that was so before; nothing where it is, or where there was
+/// none.
+void LMReactivate(LMEnvironment& environment,
+                  const std::optional<LMRunningApplication>& application);
 
 /// Gives the application time, then hides it.
 void LMWaitAndHide(LMEnvironment& environment, qint64 processIdentifier);

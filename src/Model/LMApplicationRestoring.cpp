@@ -4,6 +4,7 @@
 #include "Categories/LMSpaces.h"
 #include "Model/LMApplicationActivation.h"
 #include "Model/LMRestorePlan.h"
+#include "Model/LMStateRestoration.h"
 #include "Model/LMStoredWindow.h"
 #include "Model/LMWindow.h"
 #include "Platform/LMClock.h"
@@ -31,21 +32,25 @@ bool unhideForMove(LMApplication& application, const LMWindow& window, const QRe
     return true;
 }
 
-void restoreWindow(LMApplication& application, LMWindow& window, LMStoredWindow& storedWindow,
-                   bool positions) {
+/// The frame a window is to be given; none when nothing of it is to be set.
+std::optional<QRectF> frameToSet(const LMWindowAssignment& assignment,
+                                 const LMStateRestoration* states) {
+    const LMStoredWindow& storedWindow = *assignment.match.storedWindow;
+    return states ? states->frameFor(*assignment.window, storedWindow) : storedWindow.frame();
+}
+
+void restoreFrame(LMApplication& application, LMWindow& window, const QRectF& frame,
+                  bool positions) {
     LMEnvironment& environment = application.environment();
-    if (environment.logger.isDebugEnabled())
-        environment.logger.debug(QStringLiteral("\t\t\"%@\" MATCHED \"%@\""),
-                                 {storedWindow.labelOrTitleIfNil(), window.title()});
-    const bool unhidden = positions && unhideForMove(application, window, storedWindow.frame());
+    const bool unhidden = positions && unhideForMove(application, window, frame);
     // These programs follow the first request only half way.
     const bool twice = environment.knownApplications.plays(LMKnownApplications::Role::SocialClient,
                                                            application.bundleIdentifier());
     for (int round = 0; round < (twice ? 2 : 1); ++round) {
         if (positions)
-            window.restorePositionWithWindow(storedWindow);
+            window.restorePositionWithWindow(frame);
         else
-            window.restoreSizeWithWindow(storedWindow);
+            window.restoreSizeWithWindow(frame);
     }
     if (unhidden)
         LMWaitAndHide(environment, application.processIdentifier());
@@ -54,29 +59,37 @@ void restoreWindow(LMApplication& application, LMWindow& window, LMStoredWindow&
 /// What a pass is going to set, for the back end to do at once. Nothing where windows may have to
 /// be shown before they are moved.
 QList<LMElementValue> plannedChanges(const LMRestorePlan& plan, bool positions,
-                                     LMDesktop& desktop) {
+                                     const LMStateRestoration* states, LMDesktop& desktop) {
     QList<LMElementValue> changes;
     if (positions && desktop.screens().screensHaveSeparateSpaces())
         return changes;
     for (const LMWindowAssignment& assignment : plan.assignments) {
         if (!assignment.match.storedWindow)
             continue;
-        const QRectF frame = assignment.match.storedWindow->frame();
-        changes.append({assignment.window->element(), positions ? LMAttributeValue(frame.topLeft())
-                                                                : LMAttributeValue(frame.size())});
+        if (const auto frame = frameToSet(assignment, states))
+            changes.append({assignment.window->element(), positions
+                                                              ? LMAttributeValue(frame->topLeft())
+                                                              : LMAttributeValue(frame->size())});
     }
     return changes;
 }
 
-void restoreAssignedWindows(LMApplication& application, const LMRestorePlan& plan, bool positions) {
+void restoreAssignedWindows(LMApplication& application, const LMRestorePlan& plan, bool positions,
+                            const LMStateRestoration* states) {
+    const LMLogger& logger = application.environment().logger;
     LMDesktop& desktop = application.environment().desktop;
     const LMSettingScope scope(desktop.accessibility(),
                                positions ? LMAttribute::Position : LMAttribute::Size,
-                               plannedChanges(plan, positions, desktop));
+                               plannedChanges(plan, positions, states, desktop));
     for (const LMWindowAssignment& assignment : plan.assignments) {
-        if (assignment.match.storedWindow)
-            restoreWindow(application, *assignment.window, *assignment.match.storedWindow,
-                          positions);
+        LMStoredWindow* storedWindow = assignment.match.storedWindow;
+        if (!storedWindow)
+            continue;
+        if (logger.isDebugEnabled())
+            logger.debug(QStringLiteral("\t\t\"%@\" MATCHED \"%@\""),
+                         {storedWindow->labelOrTitleIfNil(), assignment.window->title()});
+        if (const auto frame = frameToSet(assignment, states))
+            restoreFrame(application, *assignment.window, *frame, positions);
     }
 }
 
@@ -95,23 +108,30 @@ LMRestorePlan LMApplication::restorePlan() {
 }
 
 void LMApplication::restoreWindows() {
+    LMStateRestoration states(environment());
+    restoreWindows(states);
+    states.finishStates();
+    states.finishStackingOrder();
+}
+
+void LMApplication::restoreWindows(LMStateRestoration& states) {
     if (!isLaunched())
         return;
-    restoreWindowPositions();
+    restoreWindowPositions(&states);
     // Windows that change screen take a new size only after they have settled there.
     environment().clock.sleep(1s);
-    restoreWindowSizes();
+    restoreWindowSizes(&states);
 }
 
-void LMApplication::restoreWindowPositions() {
-    restoreWindowSizesOrPositions(true);
+void LMApplication::restoreWindowPositions(LMStateRestoration* states) {
+    restoreWindowSizesOrPositions(true, states);
 }
 
-void LMApplication::restoreWindowSizes() {
-    restoreWindowSizesOrPositions(false);
+void LMApplication::restoreWindowSizes(LMStateRestoration* states) {
+    restoreWindowSizesOrPositions(false, states);
 }
 
-void LMApplication::restoreWindowSizesOrPositions(bool positions) {
+void LMApplication::restoreWindowSizesOrPositions(bool positions, LMStateRestoration* states) {
     const std::optional<LMRunningApplication> running = runningApplication();
     if (!running)
         return;
@@ -122,8 +142,13 @@ void LMApplication::restoreWindowSizesOrPositions(bool positions) {
         if (!LMSpacesInUse(environment()))
             LMActivateAndWait(environment(), running->processIdentifier);
     }
-    const LMRestorePlan plan = restorePlan();
-    restoreAssignedWindows(*this, plan, positions);
+    LMRestorePlan plan = restorePlan();
+    if (states && positions)
+        states->begin(plan, storesFloating && running->isHidden ? LMMinimized::StaysMinimized
+                                                                : LMMinimized::MayBeShown);
+    else if (states)
+        states->keepDecisions(plan);
+    restoreAssignedWindows(*this, plan, positions, states);
     logUnmatchedWindows(environment().logger, plan);
     if (storesFloating && running->isHidden && !LMSpacesInUse(environment()))
         LMWaitAndHide(environment(), running->processIdentifier);

@@ -6,6 +6,7 @@
 #include "Model/LMScreenshots.h"
 #include "Model/LMStoredWindow.h"
 #include "Model/LMWindow.h"
+#include "Model/LMWindowArrangement.h"
 #include "Platform/LMDesktop.h"
 #include "Platform/LMEnvironment.h"
 #include "Platform/LMKnownApplications.h"
@@ -49,12 +50,13 @@ void putBackAfterStoring(LMEnvironment& environment, const LMRunningApplication&
         LMWaitAndHide(environment, running.processIdentifier);
 }
 
-void storeCurrentWindows(LMApplication& application) {
+void storeCurrentWindows(LMApplication& application, const LMWindowArrangement& arrangement) {
     const bool hasHelpers = application.environment().knownApplications.plays(
         LMKnownApplications::Role::ChromiumFamily, application.bundleIdentifier());
     const std::vector<LMWindow*> windows = application.currentWindows();
     application.attachScreenshotsToWindows(windows);
     for (LMWindow* window : windows) {
+        arrangement.describe(*window);
         if (!hasHelpers || !isInvisibleHelper(*window))
             storeWindow(application, window);
     }
@@ -77,6 +79,10 @@ void unlinkWindow(LMApplication& application, LMStoredWindow& from, const LMWind
 } // namespace
 
 void LMApplication::storeWindows() {
+    storeWindows(LMWindowArrangement(environment()));
+}
+
+void LMApplication::storeWindows(const LMWindowArrangement& arrangement) {
     const std::optional<LMRunningApplication> running = runningApplication();
     const LMLogger& logger = environment().logger;
     if (!running) {
@@ -85,12 +91,16 @@ void LMApplication::storeWindows() {
     }
     showForStoring(environment(), *running);
     logger.debug(QStringLiteral("%@: "), {m_bundleIdentifier});
-    storeCurrentWindows(*this);
+    storeCurrentWindows(*this, arrangement);
     putBackAfterStoring(environment(), *running);
     addDefaultTitleMatchPatterns();
 }
 
 void LMApplication::storeFloatingWindows() {
+    storeFloatingWindows(LMWindowArrangement(environment()));
+}
+
+void LMApplication::storeFloatingWindows(const LMWindowArrangement& arrangement) {
     const std::optional<LMRunningApplication> running = runningApplication();
     if (!running)
         return;
@@ -98,6 +108,7 @@ void LMApplication::storeFloatingWindows() {
     const std::vector<LMWindow*> windows = currentWindows();
     attachScreenshotsToWindows(windows);
     for (LMWindow* window : windows) {
+        arrangement.describe(*window);
         if (!identicalStoredWindow(*window))
             storeWindow(*this, window);
     }
@@ -118,6 +129,7 @@ void LMApplication::storeFocusedWindow(LMWindow* window) {
     if (environment().userDefaults.boolForKey(
             LMUserDefaultsKeys::CreateScreenshotsWhenStoringWindows))
         attachScreenshot(*window, currentCGWindowDescriptions());
+    LMWindowArrangement(environment()).describe(*window);
     if (LMStoredWindow* replaced = identicalStoredWindow(*window))
         removeWindowsObject(replaced);
     if (LMStoredWindow* storedWindow = storeWindow(*this, window))

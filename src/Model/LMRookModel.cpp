@@ -11,7 +11,8 @@
 
 namespace {
 
-constexpr int modelVersion = 1;
+// 2: stored windows and snapshots have a state.
+constexpr int modelVersion = 2;
 
 } // namespace
 

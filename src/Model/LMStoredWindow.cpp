@@ -30,6 +30,7 @@ LMEntityDescription LMStoredWindow::entityDescription() {
             LMDescribeAttribute<&LMStoredWindow::m_frameString>(QStringLiteral("frameString")),
             LMDescribeAttribute<&LMStoredWindow::m_matchingWindowsOrdering>(
                 matchingWindowsOrderingName()),
+            LMDescribeAttribute<&LMStoredWindow::m_stateString>(QStringLiteral("stateString")),
         },
         LMApplication::entityName(), QStringLiteral("application"));
 }
@@ -38,6 +39,7 @@ LMStoredWindow* LMStoredWindow::storedWindowWithWindow(LMWindow* window) {
     auto* storedWindow = window->managedObjectContext().insertObject<LMStoredWindow>();
     storedWindow->addMatchingWindowsObject(window);
     storedWindow->setFrameString(window->frameString());
+    storedWindow->setStateString(window->stateString());
     return storedWindow;
 }
 
@@ -51,6 +53,10 @@ void LMStoredWindow::setTitleRegularExpression(const QString& pattern) {
 
 void LMStoredWindow::setFrameString(const QString& frameString) {
     setAttribute(m_frameString, frameString);
+}
+
+void LMStoredWindow::setStateString(const QString& stateString) {
+    setAttribute(m_stateString, stateString);
 }
 
 QRectF LMStoredWindow::frame() const {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Model/LMMutableSet.h"
+#include "Model/LMStoredState.h"
 #include "Model/Store/LMManagedObject.h"
 
 #include <QRectF>
@@ -17,7 +18,8 @@ public:
     static QString entityName();
     static LMEntityDescription entityDescription();
 
-    /// A new record with the window as its only matching window and the window's frame.
+    /// A new record with the window as its only matching window and the window's frame and
+    /// state.
     static LMStoredWindow* storedWindowWithWindow(LMWindow* window);
 
     // --- the record ---------------------------------------------------------------------------
@@ -32,6 +34,14 @@ public:
     void setFrameString(const QString& frameString);
     QRectF frame() const;
     void setFrame(const QRectF& frame);
+    /// The state to restore along with the frame, as LMStringFromState writes it. It is this record
+    /// that carries it, as it carries the frame; snapshots linked later do not change it. Absent in
+    /// records made before states were remembered: those restore the frame alone.
+    QString stateString() const { return m_stateString; }
+    void setStateString(const QString& stateString);
+    /// stateString decoded on every access.
+    std::optional<LMStoredState> state() const { return LMStateFromString(m_stateString); }
+    void setState(const LMStoredState& state) { setStateString(LMStringFromState(state)); }
 
     LMApplication* application() const;
 
@@ -76,6 +86,7 @@ private:
     QString m_label;
     QString m_titleRegularExpression;
     QString m_frameString;
+    QString m_stateString;
     QStringList m_matchingWindowsOrdering;
     std::vector<LMWindow*> m_matchingWindows;
 };

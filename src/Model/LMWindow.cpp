@@ -21,6 +21,7 @@ LMEntityDescription LMWindow::entityDescription() {
             LMDescribeAttribute<&LMWindow::m_children>(QStringLiteral("children")),
             LMDescribeAttribute<&LMWindow::m_screenshotFilename>(
                 QStringLiteral("screenshotFilename")),
+            LMDescribeAttribute<&LMWindow::m_stateString>(QStringLiteral("stateString")),
         },
         LMStoredWindow::entityName(), QStringLiteral("storedWindow"));
 }
@@ -35,6 +36,10 @@ void LMWindow::setSubrole(const QString& subrole) {
 
 void LMWindow::setFrameString(const QString& frameString) {
     setAttribute(m_frameString, frameString);
+}
+
+void LMWindow::setStateString(const QString& stateString) {
+    setAttribute(m_stateString, stateString);
 }
 
 void LMWindow::setHasToolbarButton(bool hasToolbarButton) {

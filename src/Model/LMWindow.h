@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Model/LMStoredState.h"
 #include "Model/Store/LMManagedObject.h"
 #include "Platform/LMPlatformTypes.h"
 
@@ -33,6 +34,12 @@ public:
     /// The frame as text, "{{x, y}, {width, height}}", global display coordinates.
     QString frameString() const { return m_frameString; }
     void setFrameString(const QString& frameString);
+    /// How it stood, as LMStringFromState writes it; absent in records made before this was read,
+    /// and where it could not be read.
+    QString stateString() const { return m_stateString; }
+    void setStateString(const QString& stateString);
+    /// stateString decoded on every access.
+    std::optional<LMStoredState> state() const { return LMStateFromString(m_stateString); }
     bool hasToolbarButton() const { return m_hasToolbarButton; }
     void setHasToolbarButton(bool hasToolbarButton);
     bool hasGrowArea() const { return m_hasGrowArea; }
@@ -83,12 +90,12 @@ public:
     bool isIdenticalToWindow(const LMWindow& other) const;
 
     // --- restoring ----------------------------------------------------------------------------
-    /// Each sets a part of the live window's frame to the stored window's. A refusal is logged and
-    /// swallowed.
-    void restorePositionWithWindow(const LMStoredWindow& storedWindow);
-    void restoreSizeWithWindow(const LMStoredWindow& storedWindow);
-    /// Position, a pause of one second, size.
-    void restoreWithWindow(const LMStoredWindow& storedWindow);
+    /// Each sets a part of the live window's frame to that of the frame it is to have. A refusal is
+    /// logged and swallowed.
+    void restorePositionWithWindow(const QRectF& storedFrame);
+    void restoreSizeWithWindow(const QRectF& storedFrame);
+    /// Position, a pause of one second, size; the state, where the stored window has one.
+    void restoreWithWindow(LMStoredWindow& storedWindow);
     /// Whether moving the window to the rectangle would carry it to another screen with spaces of
     /// its own, which a hidden application does not survive.
     bool settingFrameMayTriggerAccessibilityBug(const QRectF& frame) const;
@@ -100,6 +107,7 @@ private:
     QString m_title;
     QString m_subrole;
     QString m_frameString;
+    QString m_stateString;
     QString m_screenshotFilename;
     std::optional<QStringList> m_children;
     LMElement m_element;

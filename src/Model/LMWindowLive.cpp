@@ -72,6 +72,8 @@ bool LMWindow::readElement(LMAccessibility& accessibility) {
         return false;
     }
     setScreenshotFilename(QStringLiteral(""));
+    if (const auto state = environment().desktop.windowStates().stateOfWindow(m_element))
+        setStateString(LMStringFromState({*state, std::nullopt}));
     return true;
 }
 

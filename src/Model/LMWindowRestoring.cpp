@@ -4,6 +4,8 @@
 #include "Categories/LMAccessibilityException.h"
 #include "Categories/LMElementFunctions.h"
 #include "Categories/LMScreenAdditions.h"
+#include "Model/LMRestorePlan.h"
+#include "Model/LMStateRestoration.h"
 #include "Model/LMStoredWindow.h"
 #include "Platform/LMClock.h"
 #include "Platform/LMDesktop.h"
@@ -12,9 +14,9 @@
 
 using namespace std::chrono_literals;
 
-void LMWindow::restorePositionWithWindow(const LMStoredWindow& storedWindow) {
+void LMWindow::restorePositionWithWindow(const QRectF& storedFrame) {
     try {
-        LMElementSetPosition(environment(), m_element, storedWindow.frame().topLeft());
+        LMElementSetPosition(environment(), m_element, storedFrame.topLeft());
     } catch (const LMAccessibilityException& exception) {
         const LMLogger& logger = environment().logger;
         logger.debug(QStringLiteral("Unable to restore window position: %@"), {m_title});
@@ -22,9 +24,9 @@ void LMWindow::restorePositionWithWindow(const LMStoredWindow& storedWindow) {
     }
 }
 
-void LMWindow::restoreSizeWithWindow(const LMStoredWindow& storedWindow) {
+void LMWindow::restoreSizeWithWindow(const QRectF& storedFrame) {
     try {
-        LMElementSetSize(environment(), m_element, storedWindow.frame().size());
+        LMElementSetSize(environment(), m_element, storedFrame.size());
     } catch (const LMAccessibilityException& exception) {
         const LMLogger& logger = environment().logger;
         logger.debug(QStringLiteral("Unable to restore window size: %@"), {m_title});
@@ -32,10 +34,19 @@ void LMWindow::restoreSizeWithWindow(const LMStoredWindow& storedWindow) {
     }
 }
 
-void LMWindow::restoreWithWindow(const LMStoredWindow& storedWindow) {
-    restorePositionWithWindow(storedWindow);
+void LMWindow::restoreWithWindow(LMStoredWindow& storedWindow) {
+    LMStateRestoration states(environment());
+    LMRestorePlan plan;
+    plan.assignments.push_back({this, {}});
+    plan.assignments.back().match.storedWindow = &storedWindow;
+    states.begin(plan);
+    const auto frame = states.frameFor(*this, storedWindow);
+    if (frame)
+        restorePositionWithWindow(*frame);
     environment().clock.sleep(1s);
-    restoreSizeWithWindow(storedWindow);
+    if (frame)
+        restoreSizeWithWindow(*frame);
+    states.finishStates();
 }
 
 bool LMWindow::settingFrameMayTriggerAccessibilityBug(const QRectF& frame) const {

@@ -11,6 +11,8 @@ class LMAction;
 class LMApplication;
 class LMDisplay;
 class LMProgress;
+class LMWindowArrangement;
+class LMWorkspaceAdditions;
 struct LMScreen;
 
 /// The stored layout of one display configuration.
@@ -38,9 +40,10 @@ public:
     void removeActionsObject(LMAction* action);
 
     // --- whole workspace ----------------------------------------------------------------------
-    /// Forgets all applications and stores the windows of every running one.
+    /// Forgets all applications and stores the windows of every running one. States and stacking
+    /// order are put back as they were.
     void storeWindowsWithProgressWindowController(LMProgress& progress);
-    /// Runs the actions, then positions, a pause of one second, sizes.
+    /// Runs the actions, then positions, a pause of one second, sizes, states, the stacking order.
     void restoreWindowsWithProgressWindowController(LMProgress& progress, bool displayChanged);
     void removeAllWindows();
 
@@ -69,7 +72,11 @@ protected:
     void removePrimitiveMember(LMManagedObject& member) override;
 
 private:
-    void storeRunningApplication(const QString& bundleIdentifier);
+    void storeWindowsForApplication(const QString& bundleIdentifier,
+                                    const LMWindowArrangement& arrangement);
+    void showApplications(LMWorkspaceAdditions& additions, const LMWindowArrangement& arrangement);
+    void storeRunningApplication(const QString& bundleIdentifier,
+                                 const LMWindowArrangement& arrangement);
 
     void addMember(LMManagedObject* member);
     void removeMember(LMManagedObject* member);

@@ -6,6 +6,7 @@
 #include "Model/LMAction.h"
 #include "Model/LMApplication.h"
 #include "Model/LMProgress.h"
+#include "Model/LMStateRestoration.h"
 #include "Platform/LMClock.h"
 #include "Platform/LMDesktop.h"
 #include "Platform/LMEnvironment.h"
@@ -17,29 +18,36 @@ using namespace std::chrono_literals;
 
 namespace {
 
+void restoreApplication(LMWorkspace& workspace, const QString& bundleIdentifier,
+                        LMStateRestoration& states) {
+    if (LMApplication* application = workspace.applicationForBundleIdentifier(bundleIdentifier))
+        application->restoreWindows(states);
+}
+
 /// Where there are several spaces, restores the file manager alone and hides all others: windows of
 /// hidden applications can be moved wherever they are.
-void hideApplications(LMWorkspace& workspace, LMWorkspaceAdditions& additions) {
+void hideApplications(LMWorkspace& workspace, LMWorkspaceAdditions& additions,
+                      LMStateRestoration& states) {
     LMEnvironment& environment = workspace.environment();
     additions.storeFinderHiddenStatus();
     additions.hideFinder();
-    workspace.restoreWindowsForApplication(
-        environment.desktop.applications().fileManagerIdentifier());
+    restoreApplication(workspace, environment.desktop.applications().fileManagerIdentifier(),
+                       states);
     additions.unhideFinder();
     additions.storeAndHideApps();
 }
 
 /// All positions before all sizes: a window takes its size only on the screen it belongs to.
-void restoreInTwoPasses(LMWorkspace& workspace, LMProgress& progress) {
+void restoreInTwoPasses(LMWorkspace& workspace, LMProgress& progress, LMStateRestoration& states) {
     const std::vector<LMApplication*> applications = workspace.applications().allObjects();
     progress.setMaxValue(2.0 * static_cast<double>(applications.size()));
     for (LMApplication* application : applications) {
-        application->restoreWindowPositions();
+        application->restoreWindowPositions(&states);
         progress.increment(&workspace);
     }
     workspace.environment().clock.sleep(1s);
     for (LMApplication* application : applications) {
-        application->restoreWindowSizes();
+        application->restoreWindowSizes(&states);
         progress.increment(&workspace);
     }
 }
@@ -52,16 +60,21 @@ void LMWorkspace::restoreWindowsWithProgressWindowController(LMProgress& progres
     for (LMAction* action : filteredActions(displayChanged))
         action->run();
     LMWorkspaceAdditions additions(environment());
+    LMStateRestoration states(environment());
     // What the user looks at comes first; it takes part in the common passes again.
     if (const auto active = additions.runningApplication())
-        restoreWindowsForApplication(active->bundleIdentifier);
+        restoreApplication(*this, active->bundleIdentifier, states);
+    states.finishStates();
     if (LMSpacesInUse(environment()))
-        hideApplications(*this, additions);
-    restoreInTwoPasses(*this, progress);
+        hideApplications(*this, additions, states);
+    restoreInTwoPasses(*this, progress, states);
     if (LMSpacesInUse(environment())) {
         additions.restoreUnhiddenApps();
         additions.restoreFinderHiddenStatus();
     }
+    // Not before hidden applications are shown again: to be hidden is to be minimised.
+    states.finishStates();
+    states.finishStackingOrder();
 }
 
 void LMWorkspace::restoreWindowsForApplication(const QString& bundleIdentifier) {

@@ -6,6 +6,7 @@
 #include "Categories/LMWorkspaceAdditions.h"
 #include "Model/LMApplication.h"
 #include "Model/LMProgress.h"
+#include "Model/LMWindowArrangement.h"
 #include "Model/Store/LMObjectContext.h"
 #include "Platform/LMDesktop.h"
 #include "Platform/LMEnvironment.h"
@@ -14,22 +15,6 @@
 #include <algorithm>
 
 namespace {
-
-/// Makes the windows of all applications readable. Where there are several spaces, the file manager
-/// is stored on the way, because it alone cannot stay hidden with the others.
-void showApplications(LMWorkspace& workspace, LMWorkspaceAdditions& additions) {
-    LMEnvironment& environment = workspace.environment();
-    if (!LMSpacesInUse(environment)) {
-        additions.storeAndUnhideApps();
-        return;
-    }
-    additions.storeFinderHiddenStatus();
-    additions.hideFinder();
-    workspace.storeWindowsForApplication(
-        environment.desktop.applications().fileManagerIdentifier());
-    additions.unhideFinder();
-    additions.storeAndHideApps();
-}
 
 void putApplicationsBack(LMEnvironment& environment, LMWorkspaceAdditions& additions) {
     if (!LMSpacesInUse(environment)) {
@@ -42,9 +27,10 @@ void putApplicationsBack(LMEnvironment& environment, LMWorkspaceAdditions& addit
 
 /// The record comes with a stored window for each window it was found by; they are read afresh now
 /// that the application is shown.
-void storeApplication(LMWorkspace& workspace, LMApplication& application) {
+void storeApplication(LMWorkspace& workspace, LMApplication& application,
+                      const LMWindowArrangement& arrangement) {
     application.removeAllWindows();
-    application.storeWindows();
+    application.storeWindows(arrangement);
     if (!application.windows().isEmpty())
         workspace.addApplicationsObject(&application);
 }
@@ -54,29 +40,55 @@ void storeApplication(LMWorkspace& workspace, LMApplication& application) {
 void LMWorkspace::storeWindowsWithProgressWindowController(LMProgress& progress) {
     environment().logger.debug(QStringLiteral("STORE WINDOWS"));
     removeAllWindows();
+    const LMWindowArrangement arrangement(environment());
     LMWorkspaceAdditions additions(environment());
-    showApplications(*this, additions);
+    showApplications(additions, arrangement);
     const std::vector<LMApplication*> running =
         LMApplication::currentApplications(managedObjectContext());
     progress.setMaxValue(static_cast<double>(running.size()));
     for (LMApplication* application : running) {
         if (!storesApplication(application->bundleIdentifier()))
-            storeApplication(*this, *application);
+            storeApplication(*this, *application, arrangement);
         progress.increment(this);
     }
     putApplicationsBack(environment(), additions);
+    arrangement.putBack();
+}
+
+/// Makes the windows of all applications readable. Where there are several spaces, the file manager
+/// is stored on the way, because it alone cannot stay hidden with the others.
+void LMWorkspace::showApplications(LMWorkspaceAdditions& additions,
+                                   const LMWindowArrangement& arrangement) {
+    if (!LMSpacesInUse(environment())) {
+        additions.storeAndUnhideApps();
+        return;
+    }
+    additions.storeFinderHiddenStatus();
+    additions.hideFinder();
+    storeWindowsForApplication(environment().desktop.applications().fileManagerIdentifier(),
+                               arrangement);
+    additions.unhideFinder();
+    additions.storeAndHideApps();
 }
 
 void LMWorkspace::storeWindowsForApplication(const QString& bundleIdentifier) {
+    const LMWindowArrangement arrangement(environment());
+    storeWindowsForApplication(bundleIdentifier, arrangement);
+    arrangement.putBack();
+}
+
+void LMWorkspace::storeWindowsForApplication(const QString& bundleIdentifier,
+                                             const LMWindowArrangement& arrangement) {
     removeWindowsForApplication(bundleIdentifier);
     try {
-        storeRunningApplication(bundleIdentifier);
+        storeRunningApplication(bundleIdentifier, arrangement);
     } catch (const LMAccessibilityException&) {
         // The workspace is left as far as it got.
     }
 }
 
-void LMWorkspace::storeRunningApplication(const QString& bundleIdentifier) {
+void LMWorkspace::storeRunningApplication(const QString& bundleIdentifier,
+                                          const LMWindowArrangement& arrangement) {
     LMApplication* application =
         LMApplication::applicationWithBundleIdentifier(managedObjectContext(), bundleIdentifier);
     if (!application)
@@ -84,9 +96,9 @@ void LMWorkspace::storeRunningApplication(const QString& bundleIdentifier) {
     application->removeAllWindows();
     if (LMSpacesInUse(environment()))
         environment().desktop.applications().hide(application->processIdentifier());
-    application->storeWindows();
+    application->storeWindows(arrangement);
     if (LMSpacesInUse(environment()))
-        application->storeFloatingWindows();
+        application->storeFloatingWindows(arrangement);
     if (!application->windows().isEmpty())
         addApplicationsObject(application);
 }

@@ -15,6 +15,9 @@ LM_KEY(RestoreWindowsAutomatically);        ///< bool: restore all when the disp
 LM_KEY(RestoreWindowsAsApplicationsLaunch); ///< bool: restore an application when it launches
 LM_KEY(ApplicationLaunchRestoreDelay);      ///< double, seconds between launch and restoring
 LM_KEY(FloatingWindowActivationDelay);      ///< double, microseconds after an activation
+LM_KEY(RestoreWindowStates);                ///< bool: restore maximised, minimised and the like
+LM_KEY(RestoreVirtualDesktops);             ///< bool: restore on which virtual desktop windows are
+LM_KEY(RestoreStackingOrder);               ///< bool: restore which windows are above which
 LM_KEY(DisableStatusBarItem);               ///< bool: hide the status icon
 
 LM_KEY(SuppressStoreActiveApplicationAlert);   ///< bool: skip the replace confirmation

@@ -20,7 +20,10 @@ protected:
         test.knownApplications =
             LMKnownApplications::fromPropertyList(u":/rook/Known Applications.plist"_s);
         defaults.registerDefaults({{Keys::FloatingWindowActivationDelay, 2500.9},
-                                   {Keys::CreateScreenshotsWhenStoringWindows, false}});
+                                   {Keys::CreateScreenshotsWhenStoringWindows, false},
+                                   {Keys::RestoreWindowStates, true},
+                                   {Keys::RestoreVirtualDesktops, true},
+                                   {Keys::RestoreStackingOrder, true}});
     }
 
     /// The record of a running application with all its present windows stored.

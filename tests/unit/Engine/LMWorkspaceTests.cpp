@@ -41,7 +41,8 @@ TEST_F(WorkspaceTest, StoresEveryApplication) {
         EXPECT_EQ(storedApplications(record), (QStringList{u"a"_s, u"b"_s}));
         EXPECT_EQ(record.applications().allObjects()[1]->windows().count(), 1U);
         EXPECT_EQ(events(), u"unhide b, activate a, sleep 2500, activate com.google.Chrome, "
-                            "sleep 2500, activate b, sleep 2500, hide b"_s);
+                            "sleep 2500, activate b, sleep 2500, hide b, "
+                            "stack \"Window\" \"\" \"Window\""_s);
     }
     EXPECT_EQ(progress.maxValue, 3);
     EXPECT_EQ(progress.steps, 6);
@@ -58,7 +59,7 @@ TEST_F(WorkspaceTest, StoresAndRestoresUnderSpaces) {
     // The file manager alone: hidden, hidden to be stored, put back, shown for what floats.
     EXPECT_EQ(events().replace(finder, u"f"_s),
               u"hide f, hide f, hide f, hide f, activate f, sleep 2500, unhide f, "
-              "hide a, hide a, hide a, unhide a, unhide f"_s);
+              "hide a, hide a, hide a, unhide a, unhide f, activate a"_s);
     EXPECT_EQ(storedApplications(record), (QStringList{finder, u"a"_s}));
     EXPECT_EQ(progress.steps, 2);
 
@@ -68,7 +69,8 @@ TEST_F(WorkspaceTest, StoresAndRestoresUnderSpaces) {
               u"position \"A\" 0,0, sleep 1000000, size \"A\" 300,200, hide f, "
               "position \"F\" 400,0, sleep 1000000, size \"F\" 350,250, unhide f, hide a, "
               "position \"F\" 400,0, position \"A\" 0,0, sleep 1000000, "
-              "size \"F\" 350,250, size \"A\" 300,200, unhide a, unhide f"_s);
+              "size \"F\" 350,250, size \"A\" 300,200, unhide a, unhide f, "
+              "activate a"_s);
     EXPECT_EQ(progress.maxValue, 4);
     EXPECT_EQ(progress.steps, 6);
 

@@ -28,6 +28,8 @@ TEST_F(ModelTest, EveryAttributeAndRelationshipSurvivesTheStore) {
     snapshot->setHasDocument(true);
     snapshot->setChildren(QStringList{u"AXButton"_s, u"AXGroup"_s});
     snapshot->setScreenshotFilename(u"a.png"_s);
+    snapshot->setStateString(u"{}"_s);
+    stored->setStateString(u"{\"desktop\":1}"_s);
 
     const auto everything = [this] {
         QVariantList result;
@@ -39,20 +41,44 @@ TEST_F(ModelTest, EveryAttributeAndRelationshipSurvivesTheStore) {
                    << each->modelNumber() << each->serialNumber() << each->workspace()->name();
         for (const LMStoredWindow* each : all<LMStoredWindow>())
             result << each->label() << each->titleRegularExpression() << each->frameString()
-                   << each->matchingWindowsOrdering() << each->application()->name()
-                   << each->application()->bundleIdentifier()
+                   << each->stateString() << each->matchingWindowsOrdering()
+                   << each->application()->name() << each->application()->bundleIdentifier()
                    << each->application()->windowsOrdering();
         for (const LMWindow* each : all<LMWindow>())
             result << each->title() << each->subrole() << each->frameString()
-                   << each->screenshotFilename() << each->children().value_or(QStringList())
-                   << each->hasToolbarButton() << each->hasGrowArea() << each->hasDocument()
-                   << each->storedWindow()->label();
+                   << each->screenshotFilename() << each->stateString()
+                   << each->children().value_or(QStringList()) << each->hasToolbarButton()
+                   << each->hasGrowArea() << each->hasDocument() << each->storedWindow()->label();
         return result;
     };
     const QVariantList before = everything();
-    EXPECT_EQ(before.size(), 27);
+    EXPECT_EQ(before.size(), 29);
     saveAndReopen();
     EXPECT_EQ(everything(), before);
+}
+
+TEST_F(ModelTest, AStateIsKeptAsText) {
+    LMStoredState everything;
+    LMWindowState& window = everything.window;
+    window.isMaximizedVertically = window.isFullscreen = window.isMinimized = true;
+    window.isShaded = window.isKeptAbove = window.isKeptBelow = window.isOnAllDesktops = true;
+    LMStoredState one;
+    one.window.isMaximizedHorizontally = one.window.isMaximizedVertically = true;
+    one.window.desktop = 0;
+    one.window.desktopName = u"Mail \"&\" 日"_s;
+    one.window.normalFrame = QRectF(-1.5, 2, 3, 4);
+    one.stackingPosition = 7;
+    for (const LMStoredState& state : {everything, one, LMStoredState()})
+        EXPECT_EQ(LMStateFromString(LMStringFromState(state)), state);
+    EXPECT_EQ(LMStringFromState(one),
+              u"{\"desktop\":0,\"desktopName\":\"Mail \\\"&\\\" 日\","
+              "\"normalFrame\":\"{{-1.5, 2}, {3, 4}}\",\"stackingPosition\":7,"
+              "\"states\":[\"maximized\"]}"_s);
+    for (const QString& text : {QString(), u""_s, u"["_s, u"[]"_s, u"7"_s})
+        EXPECT_EQ(LMStateFromString(text), std::nullopt);
+    for (const QString& text : {u"{}"_s, u"{\"states\":7,\"desktop\":-1,\"normalFrame\":[]}"_s,
+                                u"{\"states\":[\"new\",{}],\"desktop\":1.5,\"x\":1}"_s})
+        EXPECT_EQ(LMStateFromString(text), LMStoredState()) << text.toStdString();
 }
 
 TEST_F(ModelTest, RecordsAreNamed) {

@@ -39,7 +39,7 @@ TEST_F(StoreFileTest, RefusedStoresStayAsTheyAre) {
         {"cut within a page", [&] { resize(size - 1); }, "cut short"},
         {"cut by a page", [&] { resize(size - 4096); }, "malformed"},
         {"damaged page", [&] { overwrite(4096, noise.first(4096)); }, "damaged: "},
-        {"newer version", [&] { execute("PRAGMA user_version = 2"); }, "newer version"},
+        {"newer version", [&] { execute("PRAGMA user_version = 3"); }, "newer version"},
         {"other program's mark", [&] { execute("PRAGMA application_id = 7"); }, "another program"},
         {"other program's tables", [&] { remove(), execute(notes); }, "another program"},
         {"wrong table shape", [&] { execute(shape); }, "not one of a store"},
@@ -86,7 +86,9 @@ TEST_F(StoreFileTest, AnEmptyFileBecomesAStoreWithOneHolderAtATime) {
 TEST_F(StoreFileTest, OlderStoresAreMigratedInPlace) {
     makeStore();
     // As a version without these attributes, and without actions, would have left it.
-    execute("PRAGMA user_version = 0; DROP TABLE Action;"
+    execute("PRAGMA user_version = 1; DROP TABLE Action;"
+            "ALTER TABLE Window DROP COLUMN stateString;"
+            "ALTER TABLE StoredWindow DROP COLUMN stateString;"
             "ALTER TABLE Window DROP COLUMN children; ALTER TABLE Window DROP COLUMN title;"
             "ALTER TABLE Window DROP COLUMN hasGrowArea;"
             "ALTER TABLE Application DROP COLUMN windowsOrdering;"
@@ -96,7 +98,8 @@ TEST_F(StoreFileTest, OlderStoresAreMigratedInPlace) {
         EXPECT_EQ(all<LMApplication>().front()->orderedWindows(), all<LMStoredWindow>());
         LMWindow* window = all<LMWindow>().front();
         EXPECT_EQ(window->title(), title);
-        EXPECT_FALSE(window->children() || window->hasGrowArea());
+        EXPECT_FALSE(window->children() || window->hasGrowArea() || window->state());
+        EXPECT_FALSE(all<LMStoredWindow>().front()->state());
         EXPECT_TRUE(test.messages.isEmpty()); // What is merely absent is no damage.
         window->setTitle(u"new"_s);
         ASSERT_TRUE(context().save());
@@ -104,7 +107,7 @@ TEST_F(StoreFileTest, OlderStoresAreMigratedInPlace) {
     store.reset();
     SQLite::Database database(path().toStdString());
     EXPECT_EQ(database.execAndGet("SELECT count(*) FROM Window WHERE later = 'kept'").getInt(), 2);
-    EXPECT_EQ(database.execAndGet("PRAGMA user_version").getInt(), 1);
+    EXPECT_EQ(database.execAndGet("PRAGMA user_version").getInt(), 2);
 }
 
 TEST_F(StoreFileTest, DamagedRowsLoadAsFarAsTheyGo) {
