@@ -38,6 +38,31 @@ QString joined(const QJsonValue& array) {
     return LMTables::printable(items.join(QLatin1Char(' ')), CellLength);
 }
 
+/// The states and the virtual desktop, which people count from 1.
+QString stateText(const QJsonValue& state) {
+    QStringList words;
+    for (const auto& name : state[u"states"].toArray())
+        words.append(name.toString());
+    if (const QJsonValue desktop = state[u"desktop"]; desktop.isDouble()) {
+        const QString number = QString::number(desktop.toInt() + 1);
+        const QString name = state[u"desktopName"].toString();
+        words.append(name.isEmpty() ? LMFormat(LMLocalized("desktop %@"), {number})
+                                    : LMFormat(LMLocalized("desktop %@ “%@”"), {number, name}));
+    }
+    return words.isEmpty() ? QStringLiteral("-")
+                           : LMTables::printable(words.join(QStringLiteral(", ")), CellLength);
+}
+
+/// How a window stands, how it is going to, and what it was stored with that cannot be had.
+QString plannedState(const QJsonValue& window) {
+    const QString now = stateText(window[u"fromState"]);
+    const QString then = window[u"toState"].isObject() ? stateText(window[u"toState"]) : now;
+    const QString lacking = joined(window[u"notRestored"]);
+    const QString text = now == then ? now : LMFormat(QStringLiteral("%@ → %@"), {now, then});
+    return lacking.isEmpty() ? text
+                             : LMFormat(LMLocalized("%@ (not to be had: %@)"), {text, lacking});
+}
+
 QString yesOrNo(bool answer) {
     return answer ? LMLocalized("yes") : LMLocalized("no");
 }
@@ -98,16 +123,23 @@ QString statusText(const QJsonObject& report) {
 
 QString listText(const QJsonObject& report) {
     QList<QStringList> rows{{LMLocalized("WORKSPACE"), LMLocalized("APPLICATION"),
-                             LMLocalized("WINDOW"), LMLocalized("FRAME"), LMLocalized("PATTERN")}};
+                             LMLocalized("WINDOW"), LMLocalized("FRAME"), LMLocalized("STATE"),
+                             LMLocalized("PATTERN")}};
     for (const auto& workspace : report[u"workspaces"].toArray()) {
         const QString name = cell(workspace[u"name"]) +
                              (workspace[u"current"].toBool() ? QStringLiteral(" *") : QString());
         for (const auto& application : workspace[u"applications"].toArray())
             for (const auto& window : application[u"windows"].toArray())
                 rows.append({name, cell(application[u"identifier"]), cell(window[u"name"]),
-                             geometry(window[u"frame"]), cell(window[u"pattern"])});
+                             geometry(window[u"frame"]), stateText(window[u"state"]),
+                             cell(window[u"pattern"])});
         if (workspace[u"applications"].toArray().isEmpty())
-            rows.append({name, QStringLiteral("-"), QStringLiteral("-"), QStringLiteral("-"), {}});
+            rows.append({name,
+                         QStringLiteral("-"),
+                         QStringLiteral("-"),
+                         QStringLiteral("-"),
+                         QStringLiteral("-"),
+                         {}});
     }
     return LMTables::table(rows);
 }
@@ -115,7 +147,7 @@ QString listText(const QJsonObject& report) {
 QString windowsText(const QJsonObject& report) {
     QList<QStringList> rows{{LMLocalized("APPLICATION"), LMLocalized("TITLE"),
                              LMLocalized("SUBROLE"), LMLocalized("CHILD ROLES"),
-                             LMLocalized("FRAME"), LMLocalized("FLAGS")}};
+                             LMLocalized("FRAME"), LMLocalized("STATE"), LMLocalized("FLAGS")}};
     for (const auto& application : report[u"applications"].toArray()) {
         for (const auto& window : application[u"windows"].toArray()) {
             QStringList flags;
@@ -124,7 +156,8 @@ QString windowsText(const QJsonObject& report) {
                     flags.append(QString::fromUtf16(flag));
             rows.append({cell(application[u"identifier"]), cell(window[u"title"]),
                          cell(window[u"subrole"]), joined(window[u"childRoles"]),
-                         geometry(window[u"frame"]), flags.join(QLatin1Char(' '))});
+                         geometry(window[u"frame"]), stateText(window[u"state"]),
+                         flags.join(QLatin1Char(' '))});
         }
     }
     return LMTables::table(rows);
@@ -133,7 +166,7 @@ QString windowsText(const QJsonObject& report) {
 QString planText(const QJsonObject& report) {
     QList<QStringList> rows{{LMLocalized("APPLICATION"), LMLocalized("WINDOW"),
                              LMLocalized("STORED WINDOW"), LMLocalized("SCORE"), LMLocalized("WHY"),
-                             LMLocalized("FROM"), LMLocalized("TO")}};
+                             LMLocalized("FROM"), LMLocalized("TO"), LMLocalized("STATE")}};
     for (const auto& application : report[u"applications"].toArray()) {
         const QString name = cell(application[u"identifier"]);
         for (const auto& window : application[u"windows"].toArray()) {
@@ -141,7 +174,7 @@ QString planText(const QJsonObject& report) {
             rows.append({name, cell(window[u"title"]),
                          isMatched ? cell(window[u"storedWindow"]) : LMLocalized("none: stays"),
                          number(window[u"score"]), joined(window[u"reasons"]),
-                         geometry(window[u"from"]), geometry(window[u"to"])});
+                         geometry(window[u"from"]), geometry(window[u"to"]), plannedState(window)});
         }
         for (const auto& stored : application[u"unmatched"].toArray())
             rows.append({name,
@@ -150,7 +183,8 @@ QString planText(const QJsonObject& report) {
                          QStringLiteral("0"),
                          {},
                          QStringLiteral("-"),
-                         geometry(stored[u"frame"])});
+                         geometry(stored[u"frame"]),
+                         QStringLiteral("-")});
     }
     return LMTables::table(rows);
 }

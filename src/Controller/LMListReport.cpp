@@ -21,6 +21,7 @@ QJsonObject storedWindow(LMStoredWindow& window) {
             {QStringLiteral("label"), text(window.label())},
             {QStringLiteral("title"), window.title()},
             {QStringLiteral("frame"), frame(window.frame())},
+            {QStringLiteral("state"), LMReportValues::state(window.state())},
             {QStringLiteral("pattern"), text(window.titleRegularExpression())}};
 }
 

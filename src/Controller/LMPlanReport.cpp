@@ -5,6 +5,7 @@
 #include "Controller/LMReportValues.h"
 #include "Controller/LMWorkspaceList.h"
 #include "Model/LMRestoreReport.h"
+#include "Model/LMStateRules.h"
 #include "Model/LMStoredWindowsStore.h"
 #include "Utilities/LMFormat.h"
 
@@ -36,7 +37,11 @@ QJsonObject plannedWindow(const LMPlannedWindow& window) {
             {QStringLiteral("score"), move ? int(move->score) : 0},
             {QStringLiteral("reasons"), move ? reasons(*move) : QJsonArray()},
             {QStringLiteral("from"), frame(window.frame)},
-            {QStringLiteral("to"), move ? QJsonValue(frame(move->frame)) : nothing}};
+            {QStringLiteral("to"), move ? QJsonValue(frame(move->frame)) : nothing},
+            {QStringLiteral("fromState"), LMReportValues::state(window.state)},
+            {QStringLiteral("toState"), move ? LMReportValues::state(move->state) : nothing},
+            {QStringLiteral("notRestored"),
+             QJsonArray::fromStringList(move ? move->notRestored : QStringList())}};
 }
 
 QJsonObject applicationPlan(const LMApplicationReport& application) {
@@ -53,6 +58,15 @@ QJsonObject applicationPlan(const LMApplicationReport& application) {
             {QStringLiteral("stored"), application.isStored},
             {QStringLiteral("windows"), windows},
             {QStringLiteral("unmatched"), unmatched}};
+}
+
+/// What is restored besides frames: switched on, and to be had from the window manager.
+QJsonObject restored(LMEnvironment& environment) {
+    const LMStateRules rules = LMStateRules::inForce(environment);
+    return {{QStringLiteral("states"), rules.restoresStates},
+            {QStringLiteral("desktops"), rules.restoresDesktops && rules.support.desktops},
+            {QStringLiteral("stackingOrder"),
+             rules.restoresStackingOrder && rules.support.stackingOrder}};
 }
 
 QJsonObject failure(const QString& why) {
@@ -72,5 +86,6 @@ QJsonObject LMReports::plan(const LMCommandParts& parts, const QString& bundleId
     QJsonArray applications;
     for (const LMApplicationReport& report : reports)
         applications.append(applicationPlan(report));
-    return {{QStringLiteral("applications"), applications}};
+    return {{QStringLiteral("applications"), applications},
+            {QStringLiteral("restores"), restored(parts.environment)}};
 }

@@ -16,6 +16,7 @@ QJsonObject liveWindow(const LMWindow& window) {
             {QStringLiteral("childRoles"),
              QJsonArray::fromStringList(window.children().value_or(QStringList()))},
             {QStringLiteral("frame"), LMReportValues::frame(window.frame())},
+            {QStringLiteral("state"), LMReportValues::state(window.state())},
             {QStringLiteral("toolbarButton"), window.hasToolbarButton()},
             {QStringLiteral("growArea"), window.hasGrowArea()},
             {QStringLiteral("document"), window.hasDocument()}};

@@ -3,6 +3,7 @@
 
 #include "Model/LMApplication.h"
 #include "Model/LMRestorePlan.h"
+#include "Model/LMStateRules.h"
 #include "Model/LMStoredWindow.h"
 #include "Model/LMWindow.h"
 #include "Model/LMWorkspace.h"
@@ -12,23 +13,34 @@
 namespace {
 
 LMPlannedWindow plannedWindow(const LMWindow& window) {
-    return {window.title(), window.frame(), std::nullopt};
+    return {window.title(), window.frame(), std::nullopt, window.state()};
 }
 
-LMPlannedWindow plannedWindow(const LMWindowAssignment& assignment) {
+LMPlannedWindow plannedWindow(const LMWindowAssignment& assignment, const LMStateRules& rules) {
     LMPlannedWindow planned = plannedWindow(*assignment.window);
     const LMWindowMatch& match = assignment.match;
-    if (match.storedWindow)
-        planned.move = LMPlannedMove{match.storedWindow->labelOrTitleIfNil(),
-                                     match.storedWindow->frame(),
-                                     match.score,
-                                     match.likeness,
-                                     match.pattern,
-                                     match.tieBreak};
+    if (!match.storedWindow)
+        return planned;
+    LMPlannedMove& move = planned.move.emplace();
+    move.label = match.storedWindow->labelOrTitleIfNil();
+    move.frame = match.storedWindow->frame();
+    move.score = match.score;
+    move.likeness = match.likeness;
+    move.pattern = match.pattern;
+    move.tieBreak = match.tieBreak;
+    const auto stored = match.storedWindow->state();
+    if (!stored || !planned.state)
+        return planned;
+    LMStateComparison comparison =
+        LMCompareState(planned.state->window, planned.frame, stored->window, move.frame, rules);
+    if (const auto desktop = comparison.wanted.desktop)
+        comparison.wanted.desktopName = rules.desktopNames.value(*desktop);
+    move.state = {comparison.wanted, stored->stackingPosition};
+    move.notRestored = comparison.notRestored;
     return planned;
 }
 
-LMApplicationReport reportStored(LMApplication& application) {
+LMApplicationReport reportStored(LMApplication& application, const LMStateRules& rules) {
     LMApplicationReport report;
     report.bundleIdentifier = application.bundleIdentifier();
     report.name = application.name();
@@ -36,7 +48,7 @@ LMApplicationReport reportStored(LMApplication& application) {
     report.isLaunched = application.isLaunched();
     const LMRestorePlan plan = application.restorePlan();
     for (const LMWindowAssignment& assignment : plan.assignments)
-        report.windows.push_back(plannedWindow(assignment));
+        report.windows.push_back(plannedWindow(assignment, rules));
     for (LMStoredWindow* storedWindow : plan.unmatchedStoredWindows)
         report.unusedStoredWindows.push_back(
             {storedWindow->labelOrTitleIfNil(), storedWindow->frame()});
@@ -61,12 +73,13 @@ std::vector<LMApplicationReport> LMReportRestore(LMWorkspace& workspace,
     const auto isAskedFor = [&](const QString& identifier) {
         return bundleIdentifier.isEmpty() || identifier == bundleIdentifier;
     };
+    LMEnvironment& environment = workspace.environment();
+    const LMStateRules rules = LMStateRules::inForce(environment);
     std::vector<LMApplicationReport> reports;
     for (LMApplication* application : workspace.applications().allObjects()) {
         if (isAskedFor(application->bundleIdentifier()))
-            reports.push_back(reportStored(*application));
+            reports.push_back(reportStored(*application, rules));
     }
-    LMEnvironment& environment = workspace.environment();
     const auto allRunning = environment.desktop.applications().runningApplications();
     for (const LMRunningApplication& running : allRunning) {
         if (!isAskedFor(running.bundleIdentifier) ||

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Model/LMStoredState.h"
 #include "Model/LMWindowMatcher.h"
 
 #include <QRectF>
@@ -19,12 +20,17 @@ struct LMPlannedMove {
     LMWindowLikeness likeness;
     bool pattern = false;
     LMTieBreak tieBreak = LMTieBreak::None;
+    /// The state it gets; none where the frame is all there is to restore.
+    std::optional<LMStoredState> state;
+    /// What of the state cannot be had now: names of states, "desktop".
+    QStringList notRestored;
 };
 
 struct LMPlannedWindow {
     QString title;
-    QRectF frame;                      ///< Where it is now; global pixels, y down.
-    std::optional<LMPlannedMove> move; ///< None when no stored window fits: it stays.
+    QRectF frame;                         ///< Where it is now; global pixels, y down.
+    std::optional<LMPlannedMove> move;    ///< None when no stored window fits: it stays.
+    std::optional<LMStoredState> state{}; ///< As it is now.
 };
 
 /// A stored window that no live window takes.
