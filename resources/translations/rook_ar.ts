@@ -176,6 +176,7 @@
     </message>
     <message>
         <location filename="../../src/CommandLine/LMInvocation.cpp"/>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
         <source>, </source>
         <translation>، </translation>
     </message>
@@ -272,6 +273,21 @@ Run “rook --help” for more information.</source>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
         <source>%@×%@ at %@,%@</source>
         <translation>%@×%@ عند %@,%@</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <source>desktop %@</source>
+        <translation>سطح المكتب %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <source>desktop %@ “%@”</source>
+        <translation>سطح المكتب %@ «%@»</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <source>%@ (not to be had: %@)</source>
+        <translation>%@ (غير متاح: %@)</translation>
     </message>
     <message>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
@@ -402,6 +418,11 @@ Run “rook --help” for more information.</source>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
         <source>FRAME</source>
         <translation>الإطار</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <source>STATE</source>
+        <translation>الحالة</translation>
     </message>
     <message>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
@@ -1383,6 +1404,116 @@ Please visit the Rook web site and download the latest version of Rook.</source>
         <translation>تأكد من أن الملف الذي تستورده نص عادي.</translation>
     </message>
     <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>Ma&amp;ximized</source>
+        <translation>مكبّرة (&amp;X)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>&amp;Full Screen</source>
+        <translation>ملء الشاشة (&amp;F)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>Mi&amp;nimized</source>
+        <translation>مصغّرة (&amp;N)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>&amp;Rolled Up</source>
+        <translation>ملفوفة (&amp;R)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>&amp;Above Others</source>
+        <translation>فوق غيرها (&amp;A)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>&amp;Below Others</source>
+        <translation>تحت غيرها (&amp;B)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>Frame &amp;Only</source>
+        <translation>الإطار فقط (&amp;O)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>On All Desktops</source>
+        <translation>على كل أسطح المكتب</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>maximized</source>
+        <translation>مكبّرة</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>maximized in width</source>
+        <translation>مكبّرة عرضًا</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>maximized in height</source>
+        <translation>مكبّرة طولًا</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>full screen</source>
+        <translation>ملء الشاشة</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>minimized</source>
+        <translation>مصغّرة</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>rolled up</source>
+        <translation>ملفوفة</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>above others</source>
+        <translation>فوق غيرها</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>below others</source>
+        <translation>تحت غيرها</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>on all desktops</source>
+        <translation>على كل أسطح المكتب</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>on desktop %@</source>
+        <translation>على سطح المكتب %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>on desktop %@ “%@”</source>
+        <translation>على سطح المكتب %@ «%@»</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>Frame only</source>
+        <translation>الإطار فقط</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>Desktop %@</source>
+        <translation>سطح المكتب %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>Desktop %@ “%@”</source>
+        <translation>سطح المكتب %@ «%@»</translation>
+    </message>
+    <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>Applications</source>
@@ -1504,6 +1635,16 @@ Please visit the Rook web site and download the latest version of Rook.</source>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
+        <source>S&amp;tate</source>
+        <translation>الحالة (&amp;T)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
+        <source>State to restore</source>
+        <translation>الحالة المراد استعادتها</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
         <source>A&amp;pplications</source>
         <translation>التطبيقات (&amp;P)</translation>
     </message>
@@ -1563,6 +1704,11 @@ Please visit the Rook web site and download the latest version of Rook.</source>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
         <source>Frame</source>
         <translation>الإطار</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
+        <source>State</source>
+        <translation>الحالة</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMAboutWindowController.cpp"/>
@@ -1665,6 +1811,41 @@ Please visit the Rook web site and download the latest version of Rook.</source>
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
         <source>Restore windows:</source>
         <translation>استعادة النوافذ:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Whether they are &amp;maximized, minimized and so on</source>
+        <translation>ما إذا كانت مكبّرة أو مصغّرة ونحو ذلك (&amp;M)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Restore whether windows are maximized, minimized and so on</source>
+        <translation>استعادة ما إذا كانت النوافذ مكبّرة أو مصغّرة ونحو ذلك</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Which &amp;virtual desktop they are on</source>
+        <translation>سطح المكتب الافتراضي الذي هي عليه (&amp;V)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Restore which virtual desktop windows are on</source>
+        <translation>استعادة سطح المكتب الافتراضي للنوافذ</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Which windows are &amp;in front</source>
+        <translation>النوافذ التي في الأمام (&amp;I)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Restore which windows are in front of others</source>
+        <translation>استعادة النوافذ التي أمام غيرها</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Restore also:</source>
+        <translation>استعادة أيضًا:</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
@@ -1839,6 +2020,11 @@ Until that changes, windows are neither stored nor restored.</source>
         <location filename="../../src/UserInterface/LMStoredWindowsEditorActions.cpp"/>
         <source>Import Script</source>
         <translation>استيراد سكربت</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMStoredWindowsEditorStates.cpp"/>
+        <source>Change State</source>
+        <translation>تغيير الحالة</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMStoredWindowsList.cpp"/>

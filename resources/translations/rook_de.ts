@@ -176,6 +176,7 @@
     </message>
     <message>
         <location filename="../../src/CommandLine/LMInvocation.cpp"/>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
         <source>, </source>
         <translation>, </translation>
     </message>
@@ -272,6 +273,21 @@ Mehr erfahren Sie mit „rook --help“.</translation>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
         <source>%@×%@ at %@,%@</source>
         <translation>%@×%@ bei %@,%@</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <source>desktop %@</source>
+        <translation>Arbeitsfläche %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <source>desktop %@ “%@”</source>
+        <translation>Arbeitsfläche %@ „%@“</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <source>%@ (not to be had: %@)</source>
+        <translation>%@ (nicht zu haben: %@)</translation>
     </message>
     <message>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
@@ -402,6 +418,11 @@ Mehr erfahren Sie mit „rook --help“.</translation>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
         <source>FRAME</source>
         <translation>RAHMEN</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <source>STATE</source>
+        <translation>ZUSTAND</translation>
     </message>
     <message>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
@@ -1383,6 +1404,116 @@ Bitte besuchen Sie die Website von Rook und laden Sie die neueste Version herunt
         <translation>Bitte stellen Sie sicher, dass die zu importierende Datei reiner Text ist.</translation>
     </message>
     <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>Ma&amp;ximized</source>
+        <translation>Ma&amp;ximiert</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>&amp;Full Screen</source>
+        <translation>&amp;Vollbild</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>Mi&amp;nimized</source>
+        <translation>Mi&amp;nimiert</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>&amp;Rolled Up</source>
+        <translation>Aufge&amp;rollt</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>&amp;Above Others</source>
+        <translation>Über &amp;anderen</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>&amp;Below Others</source>
+        <translation>&amp;Unter anderen</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>Frame &amp;Only</source>
+        <translation>Nur der Ra&amp;hmen</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>On All Desktops</source>
+        <translation>Auf allen Arbeitsflächen</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>maximized</source>
+        <translation>maximiert</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>maximized in width</source>
+        <translation>in der Breite maximiert</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>maximized in height</source>
+        <translation>in der Höhe maximiert</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>full screen</source>
+        <translation>Vollbild</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>minimized</source>
+        <translation>minimiert</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>rolled up</source>
+        <translation>aufgerollt</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>above others</source>
+        <translation>über anderen</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>below others</source>
+        <translation>unter anderen</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>on all desktops</source>
+        <translation>auf allen Arbeitsflächen</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>on desktop %@</source>
+        <translation>auf Arbeitsfläche %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>on desktop %@ “%@”</source>
+        <translation>auf Arbeitsfläche %@ „%@“</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>Frame only</source>
+        <translation>Nur der Rahmen</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>Desktop %@</source>
+        <translation>Arbeitsfläche %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>Desktop %@ “%@”</source>
+        <translation>Arbeitsfläche %@ „%@“</translation>
+    </message>
+    <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>Applications</source>
@@ -1504,6 +1635,16 @@ Bitte besuchen Sie die Website von Rook und laden Sie die neueste Version herunt
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
+        <source>S&amp;tate</source>
+        <translation>&amp;Zustand</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
+        <source>State to restore</source>
+        <translation>Wiederherzustellender Zustand</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
         <source>A&amp;pplications</source>
         <translation>&amp;Programme</translation>
     </message>
@@ -1563,6 +1704,11 @@ Bitte besuchen Sie die Website von Rook und laden Sie die neueste Version herunt
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
         <source>Frame</source>
         <translation>Rahmen</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
+        <source>State</source>
+        <translation>Zustand</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMAboutWindowController.cpp"/>
@@ -1665,6 +1811,41 @@ Bitte besuchen Sie die Website von Rook und laden Sie die neueste Version herunt
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
         <source>Restore windows:</source>
         <translation>Fenster wiederherstellen:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Whether they are &amp;maximized, minimized and so on</source>
+        <translation>Ob sie ma&amp;ximiert, minimiert und so weiter sind</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Restore whether windows are maximized, minimized and so on</source>
+        <translation>Wiederherstellen, ob Fenster maximiert, minimiert und so weiter sind</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Which &amp;virtual desktop they are on</source>
+        <translation>Auf welcher &amp;virtuellen Arbeitsfläche sie sind</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Restore which virtual desktop windows are on</source>
+        <translation>Wiederherstellen, auf welcher virtuellen Arbeitsfläche Fenster sind</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Which windows are &amp;in front</source>
+        <translation>Welche Fenster vo&amp;rne sind</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Restore which windows are in front of others</source>
+        <translation>Wiederherstellen, welche Fenster vor anderen sind</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Restore also:</source>
+        <translation>Auch wiederherstellen:</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
@@ -1839,6 +2020,11 @@ Bis sich das ändert, werden Fenster weder gespeichert noch wiederhergestellt.</
         <location filename="../../src/UserInterface/LMStoredWindowsEditorActions.cpp"/>
         <source>Import Script</source>
         <translation>Skript importieren</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMStoredWindowsEditorStates.cpp"/>
+        <source>Change State</source>
+        <translation>Zustand ändern</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMStoredWindowsList.cpp"/>

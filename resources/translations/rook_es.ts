@@ -176,6 +176,7 @@
     </message>
     <message>
         <location filename="../../src/CommandLine/LMInvocation.cpp"/>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
         <source>, </source>
         <translation>, </translation>
     </message>
@@ -272,6 +273,21 @@ Ejecute «rook --help» para obtener más información.</translation>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
         <source>%@×%@ at %@,%@</source>
         <translation>%@×%@ en %@,%@</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <source>desktop %@</source>
+        <translation>escritorio %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <source>desktop %@ “%@”</source>
+        <translation>escritorio %@ «%@»</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <source>%@ (not to be had: %@)</source>
+        <translation>%@ (no disponible: %@)</translation>
     </message>
     <message>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
@@ -402,6 +418,11 @@ Ejecute «rook --help» para obtener más información.</translation>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
         <source>FRAME</source>
         <translation>MARCO</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <source>STATE</source>
+        <translation>ESTADO</translation>
     </message>
     <message>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
@@ -1383,6 +1404,116 @@ Visite el sitio web de Rook y descargue la última versión.</translation>
         <translation>Asegúrese de que el archivo que va a importar es texto sin formato.</translation>
     </message>
     <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>Ma&amp;ximized</source>
+        <translation>Ma&amp;ximizada</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>&amp;Full Screen</source>
+        <translation>&amp;Pantalla completa</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>Mi&amp;nimized</source>
+        <translation>Mi&amp;nimizada</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>&amp;Rolled Up</source>
+        <translation>En&amp;rollada</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>&amp;Above Others</source>
+        <translation>Por &amp;encima de las demás</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>&amp;Below Others</source>
+        <translation>Por de&amp;bajo de las demás</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>Frame &amp;Only</source>
+        <translation>&amp;Solo el marco</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>On All Desktops</source>
+        <translation>En todos los escritorios</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>maximized</source>
+        <translation>maximizada</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>maximized in width</source>
+        <translation>maximizada a lo ancho</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>maximized in height</source>
+        <translation>maximizada a lo alto</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>full screen</source>
+        <translation>pantalla completa</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>minimized</source>
+        <translation>minimizada</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>rolled up</source>
+        <translation>enrollada</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>above others</source>
+        <translation>por encima de las demás</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>below others</source>
+        <translation>por debajo de las demás</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>on all desktops</source>
+        <translation>en todos los escritorios</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>on desktop %@</source>
+        <translation>en el escritorio %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>on desktop %@ “%@”</source>
+        <translation>en el escritorio %@ «%@»</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>Frame only</source>
+        <translation>Solo el marco</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>Desktop %@</source>
+        <translation>Escritorio %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>Desktop %@ “%@”</source>
+        <translation>Escritorio %@ «%@»</translation>
+    </message>
+    <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>Applications</source>
@@ -1504,6 +1635,16 @@ Visite el sitio web de Rook y descargue la última versión.</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
+        <source>S&amp;tate</source>
+        <translation>Es&amp;tado</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
+        <source>State to restore</source>
+        <translation>Estado que se restaura</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
         <source>A&amp;pplications</source>
         <translation>A&amp;plicaciones</translation>
     </message>
@@ -1563,6 +1704,11 @@ Visite el sitio web de Rook y descargue la última versión.</translation>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
         <source>Frame</source>
         <translation>Marco</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
+        <source>State</source>
+        <translation>Estado</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMAboutWindowController.cpp"/>
@@ -1665,6 +1811,41 @@ Visite el sitio web de Rook y descargue la última versión.</translation>
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
         <source>Restore windows:</source>
         <translation>Restaurar ventanas:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Whether they are &amp;maximized, minimized and so on</source>
+        <translation>Si están &amp;maximizadas, minimizadas, etcétera</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Restore whether windows are maximized, minimized and so on</source>
+        <translation>Restaurar si las ventanas están maximizadas, minimizadas, etcétera</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Which &amp;virtual desktop they are on</source>
+        <translation>En qué escritorio &amp;virtual están</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Restore which virtual desktop windows are on</source>
+        <translation>Restaurar en qué escritorio virtual están las ventanas</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Which windows are &amp;in front</source>
+        <translation>Qué ventanas están de&amp;lante</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Restore which windows are in front of others</source>
+        <translation>Restaurar qué ventanas están delante de otras</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Restore also:</source>
+        <translation>Restaurar también:</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
@@ -1839,6 +2020,11 @@ Mientras eso no cambie, las ventanas no se guardan ni se restauran.</translation
         <location filename="../../src/UserInterface/LMStoredWindowsEditorActions.cpp"/>
         <source>Import Script</source>
         <translation>Importar script</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMStoredWindowsEditorStates.cpp"/>
+        <source>Change State</source>
+        <translation>Cambiar estado</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMStoredWindowsList.cpp"/>

@@ -176,6 +176,7 @@
     </message>
     <message>
         <location filename="../../src/CommandLine/LMInvocation.cpp"/>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
         <source>, </source>
         <translation>, </translation>
     </message>
@@ -272,6 +273,21 @@ Pour en savoir plus, exécutez « rook --help ».</translation>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
         <source>%@×%@ at %@,%@</source>
         <translation>%@×%@ en %@,%@</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <source>desktop %@</source>
+        <translation>bureau %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <source>desktop %@ “%@”</source>
+        <translation>bureau %@ « %@ »</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <source>%@ (not to be had: %@)</source>
+        <translation>%@ (indisponible : %@)</translation>
     </message>
     <message>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
@@ -402,6 +418,11 @@ Pour en savoir plus, exécutez « rook --help ».</translation>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
         <source>FRAME</source>
         <translation>CADRE</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <source>STATE</source>
+        <translation>ÉTAT</translation>
     </message>
     <message>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
@@ -1383,6 +1404,116 @@ Veuillez consulter le site web de Rook et télécharger la dernière version.</t
         <translation>Veuillez vérifier que le fichier à importer est du texte brut.</translation>
     </message>
     <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>Ma&amp;ximized</source>
+        <translation>Ma&amp;ximisée</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>&amp;Full Screen</source>
+        <translation>&amp;Plein écran</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>Mi&amp;nimized</source>
+        <translation>Mi&amp;nimisée</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>&amp;Rolled Up</source>
+        <translation>En&amp;roulée</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>&amp;Above Others</source>
+        <translation>&amp;Au-dessus des autres</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>&amp;Below Others</source>
+        <translation>En &amp;dessous des autres</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>Frame &amp;Only</source>
+        <translation>Le &amp;cadre seul</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>On All Desktops</source>
+        <translation>Sur tous les bureaux</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>maximized</source>
+        <translation>maximisée</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>maximized in width</source>
+        <translation>maximisée en largeur</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>maximized in height</source>
+        <translation>maximisée en hauteur</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>full screen</source>
+        <translation>plein écran</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>minimized</source>
+        <translation>minimisée</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>rolled up</source>
+        <translation>enroulée</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>above others</source>
+        <translation>au-dessus des autres</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>below others</source>
+        <translation>en dessous des autres</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>on all desktops</source>
+        <translation>sur tous les bureaux</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>on desktop %@</source>
+        <translation>sur le bureau %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>on desktop %@ “%@”</source>
+        <translation>sur le bureau %@ « %@ »</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>Frame only</source>
+        <translation>Cadre seul</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>Desktop %@</source>
+        <translation>Bureau %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>Desktop %@ “%@”</source>
+        <translation>Bureau %@ « %@ »</translation>
+    </message>
+    <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>Applications</source>
@@ -1504,6 +1635,16 @@ Veuillez consulter le site web de Rook et télécharger la dernière version.</t
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
+        <source>S&amp;tate</source>
+        <translation>&amp;État</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
+        <source>State to restore</source>
+        <translation>État à restaurer</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
         <source>A&amp;pplications</source>
         <translation>App&amp;lications</translation>
     </message>
@@ -1563,6 +1704,11 @@ Veuillez consulter le site web de Rook et télécharger la dernière version.</t
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
         <source>Frame</source>
         <translation>Cadre</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
+        <source>State</source>
+        <translation>État</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMAboutWindowController.cpp"/>
@@ -1665,6 +1811,41 @@ Veuillez consulter le site web de Rook et télécharger la dernière version.</t
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
         <source>Restore windows:</source>
         <translation>Restaurer les fenêtres :</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Whether they are &amp;maximized, minimized and so on</source>
+        <translation>Si elles sont ma&amp;ximisées, minimisées, etc.</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Restore whether windows are maximized, minimized and so on</source>
+        <translation>Restaurer si les fenêtres sont maximisées, minimisées, etc.</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Which &amp;virtual desktop they are on</source>
+        <translation>Sur quel &amp;bureau virtuel elles sont</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Restore which virtual desktop windows are on</source>
+        <translation>Restaurer le bureau virtuel des fenêtres</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Which windows are &amp;in front</source>
+        <translation>Quelles &amp;fenêtres sont devant</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Restore which windows are in front of others</source>
+        <translation>Restaurer quelles fenêtres sont devant les autres</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Restore also:</source>
+        <translation>Restaurer aussi :</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
@@ -1839,6 +2020,11 @@ Tant que cela ne change pas, les fenêtres ne sont ni mémorisées ni restaurée
         <location filename="../../src/UserInterface/LMStoredWindowsEditorActions.cpp"/>
         <source>Import Script</source>
         <translation>Importer un script</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMStoredWindowsEditorStates.cpp"/>
+        <source>Change State</source>
+        <translation>Changer l’état</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMStoredWindowsList.cpp"/>

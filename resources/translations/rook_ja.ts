@@ -176,6 +176,7 @@
     </message>
     <message>
         <location filename="../../src/CommandLine/LMInvocation.cpp"/>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
         <source>, </source>
         <translation>、</translation>
     </message>
@@ -272,6 +273,21 @@ Run “rook --help” for more information.</source>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
         <source>%@×%@ at %@,%@</source>
         <translation>%@×%@ (%@,%@)</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <source>desktop %@</source>
+        <translation>デスクトップ %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <source>desktop %@ “%@”</source>
+        <translation>デスクトップ %@「%@」</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <source>%@ (not to be had: %@)</source>
+        <translation>%@ (利用不可: %@)</translation>
     </message>
     <message>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
@@ -402,6 +418,11 @@ Run “rook --help” for more information.</source>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
         <source>FRAME</source>
         <translation>枠</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <source>STATE</source>
+        <translation>状態</translation>
     </message>
     <message>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
@@ -1383,6 +1404,116 @@ Rook の Web サイトから最新バージョンをダウンロードしてく�
         <translation>読み込むファイルがプレーンテキストであることを確認してください。</translation>
     </message>
     <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>Ma&amp;ximized</source>
+        <translation>最大化(&amp;X)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>&amp;Full Screen</source>
+        <translation>フルスクリーン(&amp;F)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>Mi&amp;nimized</source>
+        <translation>最小化(&amp;N)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>&amp;Rolled Up</source>
+        <translation>巻き上げ(&amp;R)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>&amp;Above Others</source>
+        <translation>ほかより手前(&amp;A)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>&amp;Below Others</source>
+        <translation>ほかより奥(&amp;B)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>Frame &amp;Only</source>
+        <translation>枠だけ(&amp;O)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
+        <source>On All Desktops</source>
+        <translation>すべてのデスクトップ</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>maximized</source>
+        <translation>最大化</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>maximized in width</source>
+        <translation>横に最大化</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>maximized in height</source>
+        <translation>縦に最大化</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>full screen</source>
+        <translation>フルスクリーン</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>minimized</source>
+        <translation>最小化</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>rolled up</source>
+        <translation>巻き上げ</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>above others</source>
+        <translation>ほかより手前</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>below others</source>
+        <translation>ほかより奥</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>on all desktops</source>
+        <translation>すべてのデスクトップ</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>on desktop %@</source>
+        <translation>デスクトップ %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>on desktop %@ “%@”</source>
+        <translation>デスクトップ %@「%@」</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>Frame only</source>
+        <translation>枠だけ</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>Desktop %@</source>
+        <translation>デスクトップ %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
+        <source>Desktop %@ “%@”</source>
+        <translation>デスクトップ %@「%@」</translation>
+    </message>
+    <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
         <location filename="../../src/UserInterface/LMWorkspaceListModel.cpp"/>
         <source>Applications</source>
@@ -1504,6 +1635,16 @@ Rook の Web サイトから最新バージョンをダウンロードしてく�
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
+        <source>S&amp;tate</source>
+        <translation>状態(&amp;T)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
+        <source>State to restore</source>
+        <translation>復元する状態</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
         <source>A&amp;pplications</source>
         <translation>アプリケーション(&amp;P)</translation>
     </message>
@@ -1563,6 +1704,11 @@ Rook の Web サイトから最新バージョンをダウンロードしてく�
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
         <source>Frame</source>
         <translation>枠</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
+        <source>State</source>
+        <translation>状態</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMAboutWindowController.cpp"/>
@@ -1665,6 +1811,41 @@ Rook の Web サイトから最新バージョンをダウンロードしてく�
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
         <source>Restore windows:</source>
         <translation>ウィンドウの復元:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Whether they are &amp;maximized, minimized and so on</source>
+        <translation>最大化や最小化などの状態(&amp;M)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Restore whether windows are maximized, minimized and so on</source>
+        <translation>ウィンドウの最大化や最小化などの状態を復元</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Which &amp;virtual desktop they are on</source>
+        <translation>どの仮想デスクトップにあるか(&amp;V)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Restore which virtual desktop windows are on</source>
+        <translation>ウィンドウがどの仮想デスクトップにあるかを復元</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Which windows are &amp;in front</source>
+        <translation>どのウィンドウが手前か(&amp;I)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Restore which windows are in front of others</source>
+        <translation>どのウィンドウがほかより手前かを復元</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
+        <source>Restore also:</source>
+        <translation>ほかに復元するもの:</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
@@ -1839,6 +2020,11 @@ Until that changes, windows are neither stored nor restored.</source>
         <location filename="../../src/UserInterface/LMStoredWindowsEditorActions.cpp"/>
         <source>Import Script</source>
         <translation>スクリプトを読み込む</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMStoredWindowsEditorStates.cpp"/>
+        <source>Change State</source>
+        <translation>状態を変更</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMStoredWindowsList.cpp"/>

@@ -165,6 +165,25 @@ void LMGeneralPreferencesViewController::addRestoreControls(QFormLayout& form) {
     QVBoxLayout* layout = lines(onChange);
     layout->addLayout(launch);
     addRow(form, LMLocalized("Restore windows:"), layout);
+    addStateControls(form);
+}
+
+void LMGeneralPreferencesViewController::addStateControls(QFormLayout& form) {
+    LMUserDefaults& userDefaults = m_environment.userDefaults;
+    auto* states = checkBox("restoreStatesCheckbox",
+                            LMLocalized("Whether they are &maximized, minimized and so on"));
+    states->setAccessibleName(LMLocalized("Restore whether windows are maximized, minimized "
+                                          "and so on"));
+    LMBindToDefaults(*states, userDefaults, Keys::RestoreWindowStates);
+    auto* desktops =
+        checkBox("restoreDesktopsCheckbox", LMLocalized("Which &virtual desktop they are on"));
+    desktops->setAccessibleName(LMLocalized("Restore which virtual desktop windows are on"));
+    LMBindToDefaults(*desktops, userDefaults, Keys::RestoreVirtualDesktops);
+    auto* order =
+        checkBox("restoreStackingOrderCheckbox", LMLocalized("Which windows are &in front"));
+    order->setAccessibleName(LMLocalized("Restore which windows are in front of others"));
+    LMBindToDefaults(*order, userDefaults, Keys::RestoreStackingOrder);
+    addRow(form, LMLocalized("Restore also:"), lines(states, desktops, order));
 }
 
 void LMGeneralPreferencesViewController::addStoreControls(QFormLayout& form) {

@@ -47,6 +47,7 @@ private:
     void observe(const QString& key, const LMUserDefaults::Observer& observer);
     void addStartControls(QFormLayout& form);
     void addRestoreControls(QFormLayout& form);
+    void addStateControls(QFormLayout& form);
     void addStoreControls(QFormLayout& form);
     void addMenuIconControls(QFormLayout& form);
     void addUpdateControls(QFormLayout& form);

@@ -143,6 +143,7 @@ void LMStoredWindowsEditor::showWindow() {
             std::make_unique<Window>(m_environment, m_store.managedObjectContext(), m_undoStack);
         connect(m_window.get(), &Window::editingEnded, this, &LMStoredWindowsEditor::saveWindows);
         connect(m_window.get(), &Window::removeRequested, this, &LMStoredWindowsEditor::remove);
+        connect(m_window.get(), &Window::stateRequested, this, &LMStoredWindowsEditor::setState);
         connect(m_window.get(), &Window::orderRequested, this,
                 &LMStoredWindowsEditor::orderWindows);
         connect(m_window.get(), &Window::addActionRequested, this,

@@ -15,13 +15,14 @@ class LMTableView;
 class LMWorkspace;
 class QWidget;
 struct LMAlert;
+struct LMEditedState;
 struct LMEnvironment;
 
 /// The window in which the user inspects and prunes one workspace. Edits go straight to the records
 /// and are saved by asking for it with LMNotification::SaveWindows.
 ///
-/// Records may vanish with every save, so it knows them by their identifiers alone. Removals can be
-/// taken back until another workspace is edited.
+/// Records may vanish with every save, so it knows them by their identifiers alone. Removals and
+/// changes of states can be taken back until another workspace is edited.
 class LMStoredWindowsEditor : public QObject {
     Q_OBJECT
 public:
@@ -59,9 +60,11 @@ public:
 
 private:
     class Removal;
+    class StateChange;
 
     void windowWillClose();
     void saveWindows();
+    void setState(const LMEditedState& wanted);
     void orderWindows(const QList<LMObjectID>& windows);
     void askForScript();
     LMAction* insertAction(const QString& label, const QString& runAs, const QString& script);

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 // How the editor's window is put together.
 #include "Model/LMAction.h"
+#include "Platform/LMDesktop.h"
 #include "Platform/LMEnvironment.h"
 #include "UserInterface/Editing/LMActionsModel.h"
 #include "UserInterface/Editing/LMApplicationsModel.h"
 #include "UserInterface/Editing/LMRegularExpressionValidationFormatter.h"
 #include "UserInterface/Editing/LMScreenshotView.h"
 #include "UserInterface/Editing/LMScriptEditor.h"
+#include "UserInterface/Editing/LMStateMenu.h"
 #include "UserInterface/Editing/LMStoredWindowsEditorWindow.h"
 #include "UserInterface/Editing/LMStoredWindowsModel.h"
 #include "UserInterface/Editing/LMTableView.h"
@@ -111,6 +113,7 @@ LMStoredWindowsEditorWindow::LMStoredWindowsEditorWindow(LMEnvironment& environm
     resize(DefaultSize);
     makeTables();
     makeButtons(undoStack);
+    makeStateButton(environment.desktop.windowStates());
     makeLayout();
     for (const QKeySequence& key :
          {QKeySequence(QKeySequence::Close), QKeySequence(Qt::Key_Escape)})
@@ -134,7 +137,8 @@ void LMStoredWindowsEditorWindow::makeTables() {
         new LMRegularExpressionValidationFormatter(m_windowsTableView));
     m_windowsTableView->setColumnWidths({QStringLiteral("A name of it"), QString(),
                                          QStringLiteral("^A pattern.*of it$"),
-                                         QStringLiteral("1920 × 1080 at -1920, 1080")});
+                                         QStringLiteral("1920 × 1080 at -1920, 1080"),
+                                         QStringLiteral("Maximized, on desktop 2 “Mail”")});
     m_windowsTableView->setDragDropMode(QAbstractItemView::InternalMove);
     m_windowsTableView->setDragDropOverwriteMode(false);
 
@@ -248,6 +252,15 @@ void LMStoredWindowsEditorWindow::makeButtons(QUndoStack& undoStack) {
     updateUndo();
 }
 
+void LMStoredWindowsEditorWindow::makeStateButton(LMWindowStates& windowStates) {
+    m_stateButton = new QPushButton(LMLocalized("S&tate"), this);
+    m_stateButton->setAccessibleName(LMLocalized("State to restore"));
+    auto* menu = new LMStateMenu(
+        windowStates, [this] { return selectedState(); }, m_stateButton);
+    connect(menu, &LMStateMenu::stateRequested, this, &LMStoredWindowsEditorWindow::stateRequested);
+    m_stateButton->setMenu(menu);
+}
+
 // --- layout -------------------------------------------------------------------------------------
 
 QWidget* LMStoredWindowsEditorWindow::makeApplicationsPane() {
@@ -262,7 +275,8 @@ QWidget* LMStoredWindowsEditorWindow::makeWindowsPane() {
     auto* pane = new QWidget;
     QVBoxLayout* layout = makePane(pane, LMLocalized("&Windows"), m_windowsTableView);
     layout->addWidget(m_windowsTableView, 1);
-    layout->addLayout(makeButtonRow({m_moveUpButton, m_moveDownButton, m_removeWindowButton}));
+    layout->addLayout(
+        makeButtonRow({m_moveUpButton, m_moveDownButton, m_stateButton, m_removeWindowButton}));
     return pane;
 }
 
@@ -303,6 +317,7 @@ void LMStoredWindowsEditorWindow::makeLayout() {
                                 m_windowsTableView,
                                 m_moveUpButton,
                                 m_moveDownButton,
+                                m_stateButton,
                                 m_removeWindowButton,
                                 m_actionsTableView,
                                 m_addActionButton,

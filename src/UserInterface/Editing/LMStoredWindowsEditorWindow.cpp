@@ -11,6 +11,7 @@
 #include "UserInterface/Editing/LMApplicationsModel.h"
 #include "UserInterface/Editing/LMScreenshotView.h"
 #include "UserInterface/Editing/LMScriptEditor.h"
+#include "UserInterface/Editing/LMStateMenu.h"
 #include "UserInterface/Editing/LMStoredWindowsModel.h"
 #include "UserInterface/Editing/LMTableView.h"
 #include "UserInterface/LMPresentableText.h"
@@ -104,9 +105,16 @@ void LMStoredWindowsEditorWindow::updateButtons() {
     const int row = m_windowsTableView->currentIndex().row();
     m_moveUpButton->setEnabled(hasWindow && row > 0);
     m_moveDownButton->setEnabled(hasWindow && row + 1 < m_windows->rowCount());
+    m_stateButton->setEnabled(hasWindow);
     m_addActionButton->setEnabled(m_hasWorkspace);
     m_removeActionButton->setEnabled(hasAction);
     m_runButton->setEnabled(hasAction);
+}
+
+LMEditedState LMStoredWindowsEditorWindow::selectedState() const {
+    const auto* window =
+        objectWithID<LMStoredWindow>(m_context, m_windowsTableView->selectedRecord());
+    return window ? LMEditedState{window->state(), window->frame()} : LMEditedState();
 }
 
 void LMStoredWindowsEditorWindow::moveSelectedWindow(int rows) {

@@ -13,9 +13,11 @@ class LMScreenshotView;
 class LMScriptEditor;
 class LMStoredWindowsModel;
 class LMTableView;
+class LMWindowStates;
 class LMWorkspace;
 class QPushButton;
 class QUndoStack;
+struct LMEditedState;
 struct LMEnvironment;
 
 /// The widgets of the editor and what they show of one workspace. It changes nothing by itself:
@@ -52,6 +54,8 @@ Q_SIGNALS:
     /// A change is complete and may be saved.
     void editingEnded();
     void removeRequested(LMTableView* sender);
+    /// The selected stored window shall have this state.
+    void stateRequested(const LMEditedState& wanted);
     /// The stored windows of the selected application shall stand in this order.
     void orderRequested(const QList<LMObjectID>& windows);
     /// tag: 1 AppleScript, 2 shell script, 3 import.
@@ -72,6 +76,8 @@ private:
     QWidget* makeScriptPane();
     QPushButton* makeRemoveButton(const char* text, const char* name, LMTableView* table);
     QPushButton* makeMoveButton(const char* text, Qt::Key key, int rows);
+    void makeStateButton(LMWindowStates& windowStates);
+    LMEditedState selectedState() const;
     void connectTable(LMTableView* table);
 
     void showWindowsOfApplication();
@@ -93,6 +99,7 @@ private:
     QPushButton* m_removeWindowButton = nullptr;
     QPushButton* m_moveUpButton = nullptr;
     QPushButton* m_moveDownButton = nullptr;
+    QPushButton* m_stateButton = nullptr;
     QPushButton* m_addActionButton = nullptr;
     QPushButton* m_removeActionButton = nullptr;
     QPushButton* m_runButton = nullptr;

@@ -3,6 +3,7 @@
 
 #include "Model/LMApplication.h"
 #include "Model/LMStoredWindow.h"
+#include "UserInterface/Editing/LMStateText.h"
 #include "UserInterface/LMPresentableText.h"
 #include "Utilities/LMFormat.h"
 
@@ -32,7 +33,7 @@ QString emptyText(int column) {
 LMStoredWindowsModel::LMStoredWindowsModel(LMObjectContext& context, QObject* parent)
     : LMRecordTableModel(context,
                          {LMLocalized("Label"), LMLocalized("Title"), LMLocalized("Title Pattern"),
-                          LMLocalized("Frame")},
+                          LMLocalized("Frame"), LMLocalized("State")},
                          parent) {}
 
 void LMStoredWindowsModel::setApplication(LMApplication* application) {
@@ -50,6 +51,7 @@ const LMStoredWindowsModel::Row& LMStoredWindowsModel::row(const QModelIndex& in
         row.texts[Title] = LMPresentableLine(window->title());
         row.texts[Pattern] = LMPresentableLine(window->titleRegularExpression());
         row.texts[Frame] = frameText(window->frame());
+        row.texts[State] = LMTextOfState(window->state());
     }
     return row;
 }

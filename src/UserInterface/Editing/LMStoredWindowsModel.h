@@ -12,7 +12,7 @@ class LMApplication;
 class LMStoredWindowsModel final : public LMRecordTableModel {
     Q_OBJECT
 public:
-    enum Column { Label, Title, Pattern, Frame };
+    enum Column { Label, Title, Pattern, Frame, State };
 
     LMStoredWindowsModel(LMObjectContext& context, QObject* parent);
 
@@ -45,7 +45,7 @@ protected:
 
 private:
     struct Row {
-        QString texts[4]; ///< By column, presentable.
+        QString texts[5]; ///< By column, presentable.
     };
     const Row& row(const QModelIndex& index) const;
 

@@ -92,6 +92,9 @@ TEST_F(Preferences, ControlsAreTiedToTheirKeysBothWays) {
     const std::pair<QString, QLatin1String> rows[] = {
         {u"restoreOnDisplayChangeCheckbox"_s, Keys::RestoreWindowsAutomatically},
         {u"restoreOnLaunchCheckbox"_s, Keys::RestoreWindowsAsApplicationsLaunch},
+        {u"restoreStatesCheckbox"_s, Keys::RestoreWindowStates},
+        {u"restoreDesktopsCheckbox"_s, Keys::RestoreVirtualDesktops},
+        {u"restoreStackingOrderCheckbox"_s, Keys::RestoreStackingOrder},
         {u"screenshotsCheckbox"_s, Keys::CreateScreenshotsWhenStoringWindows},
         {u"automaticUpdatesCheckbox"_s, Keys::SUEnableAutomaticChecks},
     };

@@ -12,6 +12,7 @@
 #include "UserInterface/Editing/LMRegularExpressionValidationFormatter.h"
 #include "UserInterface/Editing/LMScreenshotView.h"
 #include "UserInterface/Editing/LMScriptEditor.h"
+#include "UserInterface/Editing/LMStateMenu.h"
 #include "UserInterface/Editing/LMStoredWindowsEditorWindow.h"
 #include "UserInterface/Editing/LMStoredWindowsModel.h"
 #include "UserInterface/Editing/LMTableView.h"
@@ -19,6 +20,7 @@
 #include "UserInterface/LMStoredWindowsEditor.h"
 #include "Utilities/LMNotificationCenter.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QFile>
@@ -108,6 +110,45 @@ protected:
     LMWorkspace* workspace = nullptr;
     int saves = 0;
 };
+
+TEST_F(StoredWindowsEditor, ChangesStatesAndTakesThatBack) {
+    LMStoredWindow* edited = stored(u"browser"_s)->orderedWindows()[0];
+    edited->setFrame({10, 20, 300, 200});
+    edited->setStateString(QString());
+    editor.reloadTableViews();
+    auto& menu = *window().findChild<LMStateMenu*>();
+    const auto shown = [&] { return column(windows(), LMStoredWindowsModel::State).front(); };
+    const auto choose = [&](const QString& text) {
+        Q_EMIT menu.aboutToShow();
+        const QList<QAction*> entries = menu.actions();
+        const auto entry = std::ranges::find(entries, text, &QAction::text);
+        ASSERT_NE(entry, entries.end()) << text.toStdString();
+        (*entry)->trigger();
+    };
+    EXPECT_EQ(shown(), u"Frame only"_s);
+    const std::pair<QString, QString> rows[] = {
+        {u"Ma&ximized"_s, u"Maximized"_s},
+        {u"Desktop 2 “Two”"_s, u"Maximized, on desktop 2 “Two”"_s},
+        {u"&Above Others"_s, u"Maximized, above others, on desktop 2 “Two”"_s},
+        {u"&Below Others"_s, u"Maximized, below others, on desktop 2 “Two”"_s},
+        {u"On All Desktops"_s, u"Maximized, below others, on all desktops"_s},
+        {u"Ma&ximized"_s, u"Below others, on all desktops"_s},
+        {u"Frame &Only"_s, u"Frame only"_s},
+    };
+    for (const auto& [entry, expected] : rows) {
+        choose(entry);
+        EXPECT_EQ(shown(), expected);
+        EXPECT_FALSE(context.hasChanges());
+    }
+    for (std::size_t row = std::size(rows) - 1; row > 0; --row) {
+        QTest::keyClick(&window(), Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(shown(), rows[row - 1].second);
+        EXPECT_EQ(edited->state()->window.normalFrame.has_value(), shown().startsWith(u"Max"_s));
+    }
+    QTest::keyClick(&window(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(edited->state(), std::nullopt);
+    EXPECT_EQ(edited->frame(), QRectF(10, 20, 300, 200));
+}
 
 TEST_F(StoredWindowsEditor, EditsLabelsAndPatternsWithTheKeyboard) {
     EXPECT_EQ(column(applications(), 0), (QStringList{u"browser"_s, u"Editor"_s}));
