@@ -17,11 +17,13 @@ from rig.scenario import Opened, open_windows, readings, scatter  # noqa: E402
 
 PICTURES = ROOT / "build/demo"
 MINIMISED, ELSEWHERE, CLIENT_DECORATED = "notes.txt", "Pictures", "todo.txt"
+MAXIMISED, ABOVE = "readme.txt", "first shell"
 RESTARTED = "gedit"
 
 
 def state(window: Window) -> str:
-    words = ["minimised"] if window.minimised else []
+    words = [word for word, is_so in (("maximised", window.maximised), ("minimised", window.minimised),
+                                      ("above", "ABOVE" in window.states)) if is_so]
     words += [f"desktop {window.desktop + 1}"] if window.desktop else []
     words += ["own decorations"] if any(window.shadow_extents) else []
     return ", ".join(words)
@@ -34,7 +36,7 @@ def show(opened: list[Opened], *stages: tuple[str, dict[int, Window]]) -> bool:
     rows, all_back = [], True
     for window in opened:
         before, after = stored[window.identifier], last[window.identifier]
-        is_back = (after.frame, after.minimised, after.desktop) == (before.frame, before.minimised, before.desktop)
+        is_back = after.frame == before.frame and state(after) == state(before)
         all_back = all_back and is_back
         rows.append([window.application, window.document, *(stage[window.identifier].frame for _, stage in stages),
                      state(after), "yes" if is_back else "NO"])
@@ -42,11 +44,23 @@ def show(opened: list[Opened], *stages: tuple[str, dict[int, Window]]) -> bool:
     return all_back
 
 
+def upset(desktop: Desktop, opened: list[Opened], by_document: dict[str, int]) -> None:
+    """Moves and resizes every window, and takes away every state and virtual desktop."""
+    probe = desktop.probe
+    probe.maximise(by_document[MAXIMISED], False)
+    probe.set_state(by_document[ABOVE], "above", False)
+    probe.send_to_desktop(by_document[ELSEWHERE], 0)
+    probe.activate(by_document[MINIMISED])
+    probe.activate(by_document[ABOVE])
+    scatter(desktop, opened, seed=1)
+
+
 def wait_until_back(desktop: Desktop, opened: list[Opened], stored: dict[int, Window]) -> dict[int, Window]:
     """What stands on the desktop once every window is back, or when waiting makes no sense any more."""
     def is_back() -> bool:
         now = readings(desktop, opened)
-        return all(now[window].frame == stored[window].frame for window in now)
+        return all((now[window].frame, state(now[window])) == (stored[window].frame, state(stored[window]))
+                   for window in now)
     try:
         wait_until(is_back, "the windows to come back", 20.0, 0.3)
     except RigError as error:
@@ -89,6 +103,8 @@ def main() -> int:
         by_document = {window.document: window.identifier for window in opened}
         desktop.probe.minimise(by_document[MINIMISED])
         desktop.probe.send_to_desktop(by_document[ELSEWHERE], 1)
+        desktop.probe.maximise(by_document[MAXIMISED])
+        desktop.probe.set_state(by_document[ABOVE], "above")
         stored = readings(desktop, opened)
         assert stored[by_document[MINIMISED]].minimised and stored[by_document[ELSEWHERE]].desktop == 1
         assert any(stored[by_document[CLIENT_DECORATED]].shadow_extents)
@@ -96,8 +112,8 @@ def main() -> int:
         print("== rook store-all")
         rook.do("store-all", "--overwrite")
         desktop.picture(PICTURES / "1-stored.png")
-        print("== every window moved and resized with wmctrl")
-        scatter(desktop, opened, seed=1)
+        print("== every window moved, resized and made an ordinary one of the first desktop with wmctrl")
+        upset(desktop, opened, by_document)
         scattered = readings(desktop, opened)
         untouched = [window.document for window in opened
                      if scattered[window.identifier].frame == stored[window.identifier].frame]

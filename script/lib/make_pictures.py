@@ -198,7 +198,9 @@ def stored_windows_list() -> None:
 
 def editor() -> None:
     with Studio("xfwm4") as studio:
-        studio.open(EDITED)
+        windows = studio.open(EDITED)
+        studio.probe.maximise(windows[1])
+        studio.probe.send_to_desktop(windows[2], 1)
         studio.rook.do("store-all")
         changes = [("UPDATE StoredWindow SET label = ?, titleRegularExpression = ? WHERE key IN "
                     "(SELECT storedWindow FROM Window WHERE title = ?)", values)

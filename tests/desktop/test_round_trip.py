@@ -52,14 +52,15 @@ class RoundTrip(unittest.TestCase):
             self.rook.do("restore-all")
         self.assertEqual(frames(self.desktop, self.windows), stored)
 
-    def test_2_minimised_and_other_desktop_windows_stay_where_they_are(self) -> None:
-        stored = self.store()
+    def test_2_windows_out_of_sight_get_their_frames_and_stay_there(self) -> None:
+        stored = frames(self.desktop, self.windows)
         asleep, away = self.by_document["letter.txt"], self.by_document["program.c"]
+        self.put_out_of_sight(asleep, away)
+        self.rook.do("store-all", "--overwrite")
+        self.bring_back(asleep, away)
         for window in (asleep, away):
             self.probe.place(window, Frame(300, 300, 500, 400))
-        self.probe.minimise(asleep)
-        self.probe.send_to_desktop(away, 2)
-        self.probe.activate(self.by_document["first shell"])
+        self.put_out_of_sight(asleep, away)
         for command in (("restore-all",), ("store-all", "--overwrite")):
             self.rook.do(*command)
             after = readings(self.desktop, self.windows)
@@ -67,11 +68,20 @@ class RoundTrip(unittest.TestCase):
             self.assertEqual(after[away].desktop, 2)
             self.assertEqual(self.probe.current_desktop(), 0, "the desktop was changed")
             self.assertEqual(self.probe.active_window(), self.by_document["first shell"])
-        self.probe.send_to_desktop(away, 0)
-        self.probe.activate(asleep)
+        self.bring_back(asleep, away)
         self.assertEqual(frames(self.desktop, self.windows), stored)
+        stored = self.store()
         scatter(self.desktop, self.windows, 4)
         self.restore_and_compare(stored)
+
+    def put_out_of_sight(self, asleep: int, away: int) -> None:
+        self.probe.minimise(asleep)
+        self.probe.send_to_desktop(away, 2)
+        self.probe.activate(self.by_document["first shell"])
+
+    def bring_back(self, asleep: int, away: int) -> None:
+        self.probe.send_to_desktop(away, 0)
+        self.probe.activate(asleep)
 
     def test_3_a_maximised_window_leaves_that_state_for_its_frame_and_fills_its_monitor_again(self) -> None:
         stored = self.store()
