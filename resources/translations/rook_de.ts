@@ -287,7 +287,7 @@ Mehr erfahren Sie mit „rook --help“.</translation>
     <message>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
         <source>%@ (not to be had: %@)</source>
-        <translation>%@ (nicht zu haben: %@)</translation>
+        <translation>%@ (nicht möglich: %@)</translation>
     </message>
     <message>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
@@ -1421,7 +1421,7 @@ Bitte besuchen Sie die Website von Rook und laden Sie die neueste Version herunt
     <message>
         <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
         <source>&amp;Rolled Up</source>
-        <translation>Aufge&amp;rollt</translation>
+        <translation>&amp;Eingerollt</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStateMenu.cpp"/>
@@ -1471,7 +1471,7 @@ Bitte besuchen Sie die Website von Rook und laden Sie die neueste Version herunt
     <message>
         <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
         <source>rolled up</source>
-        <translation>aufgerollt</translation>
+        <translation>eingerollt</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>

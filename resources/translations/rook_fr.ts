@@ -1636,7 +1636,7 @@ Veuillez consulter le site web de Rook et télécharger la dernière version.</t
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
         <source>S&amp;tate</source>
-        <translation>&amp;État</translation>
+        <translation>É&amp;tat</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsEditorLayout.cpp"/>
