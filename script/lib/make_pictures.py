@@ -214,7 +214,7 @@ def editor() -> None:
         studio.press("Return")
         window = studio.wait_for_window("2 Displays")
         studio.probe.place(window, Frame(300, 120, 1044, 720))
-        studio.press("alt+p", "ctrl+End", "alt+w", "ctrl+Home", "Down", "alt+c", "ctrl+Home")
+        studio.press("alt+p", "ctrl+End", "alt+w", "ctrl+Home", "Down", "Down", "alt+c", "ctrl+Home")
         publish("editor", str(studio.take("editor", studio.probe.frame(window))))
 
 
