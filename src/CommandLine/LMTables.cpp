@@ -46,8 +46,10 @@ QString stateText(const QJsonValue& state) {
     if (const QJsonValue desktop = state[u"desktop"]; desktop.isDouble()) {
         const QString number = QString::number(desktop.toInt() + 1);
         const QString name = state[u"desktopName"].toString();
-        words.append(name.isEmpty() ? LMFormat(LMLocalized("desktop %@"), {number})
-                                    : LMFormat(LMLocalized("desktop %@ “%@”"), {number, name}));
+        // Many managers call it "Workspace 2" or the like.
+        const bool saysNothing = name.isEmpty() || name.endsWith(u' ' + number);
+        words.append(saysNothing ? LMFormat(LMLocalized("desktop %@"), {number})
+                                 : LMFormat(LMLocalized("desktop %@ “%@”"), {number, name}));
     }
     return words.isEmpty() ? QStringLiteral("-")
                            : LMTables::printable(words.join(QStringLiteral(", ")), CellLength);

@@ -29,9 +29,13 @@ QStringList wordsOfState(const LMWindowState& state) {
     return words;
 }
 
+QString nameToShow(const QString& name, const QString& number) {
+    return name.endsWith(u' ' + number) ? QString() : LMPresentableLine(name);
+}
+
 QString onDesktop(const LMWindowState& state) {
     const QString number = QString::number(*state.desktop + 1);
-    const QString name = LMPresentableLine(state.desktopName);
+    const QString name = nameToShow(state.desktopName, number);
     return name.isEmpty() ? LMFormat(LMLocalized("on desktop %@"), {number})
                           : LMFormat(LMLocalized("on desktop %@ “%@”"), {number, name});
 }
@@ -51,8 +55,8 @@ QString LMTextOfState(const std::optional<LMStoredState>& state) {
 }
 
 QString LMTextOfDesktop(int number, const QString& name) {
-    const QString shown = LMPresentableLine(name);
     const QString counted = QString::number(number + 1);
+    const QString shown = nameToShow(name, counted);
     return shown.isEmpty() ? LMFormat(LMLocalized("Desktop %@"), {counted})
                            : LMFormat(LMLocalized("Desktop %@ “%@”"), {counted, shown});
 }

@@ -5,7 +5,8 @@
 
 #include <QString>
 
-/// How a stored window stands, for people: "Maximized, on desktop 2 “Mail”". Desktops count from 1.
+/// How a stored window stands, for people: "Maximized, on desktop 2 “Mail”". Desktops count from 1;
+/// names that only tell the number ("Workspace 2") are left out.
 /// "Frame only" where no state is remembered, empty for a window that stands as any other and on no
 /// desktop.
 QString LMTextOfState(const std::optional<LMStoredState>& state);
