@@ -65,7 +65,8 @@ Windows LMX11WindowsToLower(const QList<LMX11StackedWindow>& pile, const Windows
     }
     const QList<Set> views = viewsOf(pile);
     if (std::ranges::all_of(views, [&](const Set& view) {
-            return only(only(present, moving), view) == only(moved, view);
+            // Not by the lists' own comparison, which hands an empty list's null to memcmp.
+            return std::ranges::equal(only(only(present, moving), view), only(moved, view));
         }))
         return {};
 
