@@ -17,6 +17,8 @@ LMWindowState LMPossibleWindowState(const LMWindowState& wanted, const LMWindowS
     take(support.above, &LMWindowState::isKeptAbove);
     take(support.below, &LMWindowState::isKeptBelow);
     take(support.desktops, &LMWindowState::isOnAllDesktops);
+    // Not all managers can show again what is rolled up while it is minimised.
+    state.isShaded = state.isShaded && !state.isMinimized;
     if (!support.desktops)
         return state;
     const int desktop = wanted.desktop.value_or(-1);

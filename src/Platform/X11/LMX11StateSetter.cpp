@@ -106,7 +106,8 @@ void LMX11StateSetter::send(const Task& task, const LMWindowState& is, Means mea
     }
     if (is.isMinimized && !wanted.isMinimized)
         show(window, wanted, means);
-    changeWhatDiffers(Change::Add, &S::isShaded, atoms._NET_WM_STATE_SHADED);
+    if (!is.isMinimized || means == Means::Mapping) // Its state may not suffice to show it.
+        changeWhatDiffers(Change::Add, &S::isShaded, atoms._NET_WM_STATE_SHADED);
     if (!is.isMinimized && wanted.isMinimized)
         m_windowManager.minimize(window);
 }

@@ -34,9 +34,11 @@ void setFullscreen(LMEditedState& edited, bool isOn) {
 }
 void setMinimized(LMEditedState& edited, bool isOn) {
     stateOf(edited).isMinimized = isOn;
+    stateOf(edited).isShaded = stateOf(edited).isShaded && !isOn;
 }
 void setShaded(LMEditedState& edited, bool isOn) {
     stateOf(edited).isShaded = isOn;
+    stateOf(edited).isMinimized = stateOf(edited).isMinimized && !isOn;
 }
 void setAbove(LMEditedState& edited, bool isOn) {
     stateOf(edited).isKeptAbove = isOn;
