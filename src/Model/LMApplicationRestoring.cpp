@@ -139,8 +139,11 @@ void LMApplication::restoreWindowSizesOrPositions(bool positions, LMStateRestora
     if (storesFloating) {
         environment().logger.debug(QStringLiteral("%@ stores floating windows"),
                                    {m_bundleIdentifier});
-        if (!LMSpacesInUse(environment()))
+        if (!LMSpacesInUse(environment())) {
             LMActivateAndWait(environment(), running->processIdentifier);
+            if (states)
+                states->noteFocusTaken();
+        }
     }
     LMRestorePlan plan = restorePlan();
     if (states && positions)

@@ -161,6 +161,10 @@ void LMStateRestoration::changeStates(bool minimizedToo) {
 }
 
 void LMStateRestoration::finishStackingOrder() {
+    if (m_decisions.empty())
+        return;
+    if (m_hasTakenFocus)
+        LMReactivate(m_environment, m_active);
     if (!m_rules.restoresStackingOrder || !m_rules.support.stackingOrder)
         return;
     std::vector<const Decision*> placed;
@@ -171,7 +175,6 @@ void LMStateRestoration::finishStackingOrder() {
     }
     std::ranges::stable_sort(
         placed, {}, [](const Decision* decision) { return *decision->stored.stackingPosition; });
-    LMReactivate(m_environment, m_active);
     QList<LMElement> frontToBack;
     std::ranges::transform(placed, std::back_inserter(frontToBack), &Decision::element);
     LMRestack(m_environment, frontToBack);

@@ -45,8 +45,12 @@ public:
     std::optional<QRectF> frameFor(const LMWindow& window,
                                    const LMStoredWindow& storedWindow) const;
 
+    /// Applications had to be activated or hidden on the way, which is not to last.
+    void noteFocusTaken() { m_hasTakenFocus = true; }
+
     void finishStates();
-    /// With the application active again that was so in the beginning.
+    /// With the application active again that was so in the beginning, if the focus was taken from
+    /// it. Who turns to another window meanwhile stays there.
     void finishStackingOrder();
 
 private:
@@ -72,5 +76,6 @@ private:
     LMEnvironment& m_environment;
     LMStateRules m_rules;
     std::optional<LMRunningApplication> m_active; ///< At the beginning.
+    bool m_hasTakenFocus = false;
     std::vector<Decision> m_decisions;
 };

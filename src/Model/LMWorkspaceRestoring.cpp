@@ -35,6 +35,7 @@ void hideApplications(LMWorkspace& workspace, LMWorkspaceAdditions& additions,
                        states);
     additions.unhideFinder();
     additions.storeAndHideApps();
+    states.noteFocusTaken();
 }
 
 /// All positions before all sizes: a window takes its size only on the screen it belongs to.

@@ -145,6 +145,18 @@ TEST_F(StateRestorationTest, ARecordWithoutAStateRestoresTheFrameAlone) {
     EXPECT_EQ(frame(elements[0]), left);
 }
 
+TEST_F(StateRestorationTest, TheFocusComesBackWhereARestoreHasTakenIt) {
+    LMApplication& application = store({{u"F"_s, left, floating}});
+    const LMElement other = launch(u"other"_s, {{u"O"_s, right}}).first();
+    for (const bool hasState : {true, false}) {
+        if (!hasState)
+            application.orderedWindows()[0]->setStateString(QString());
+        desktop.focus(other);
+        application.restoreWindows();
+        EXPECT_EQ(application.runningApplication()->isActive, !hasState);
+    }
+}
+
 TEST_F(StateRestorationTest, ADesktopIsFoundByNameThenByNumber) {
     const QStringList four{u"One"_s, u"Two"_s, u"Three"_s, u"Two"_s};
     const std::tuple<std::optional<int>, QString, QStringList, std::optional<int>> rows[] = {
