@@ -33,9 +33,13 @@ LMPlannedWindow plannedWindow(const LMWindowAssignment& assignment, const LMStat
         return planned;
     LMStateComparison comparison =
         LMCompareState(planned.state->window, planned.frame, stored->window, move.frame, rules);
-    if (const auto desktop = comparison.wanted.desktop)
-        comparison.wanted.desktopName = rules.desktopNames.value(*desktop);
-    move.state = {comparison.wanted, stored->stackingPosition};
+    LMWindowState& wanted = comparison.wanted;
+    wanted.desktopName = rules.desktopNames.value(wanted.desktop.value_or(-1));
+    if (!wanted.isMaximized() && !wanted.isFullscreen)
+        wanted.normalFrame.reset();
+    else if (!comparison.isFrameRight)
+        wanted.normalFrame = comparison.normalFrame;
+    move.state = {wanted, stored->stackingPosition};
     move.notRestored = comparison.notRestored;
     return planned;
 }

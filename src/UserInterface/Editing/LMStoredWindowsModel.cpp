@@ -60,7 +60,7 @@ QVariant LMStoredWindowsModel::data(const QModelIndex& index, int role) const {
     const int column = index.column();
     if (role == Qt::DisplayRole)
         return row(index).texts[column];
-    if (role == Qt::AccessibleTextRole && row(index).texts[column].isEmpty())
+    if (role == Qt::AccessibleTextRole && column != State && row(index).texts[column].isEmpty())
         return emptyText(column);
     if (role == Qt::ToolTipRole && column != Frame)
         return LMPresentableToolTip(row(index).texts[column]);
