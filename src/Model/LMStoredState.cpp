@@ -91,6 +91,8 @@ std::optional<LMStoredState> LMStateFromString(const QString& text) {
     state.window.desktopName = object[desktopNameKey].toString();
     if (const QJsonValue frame = object[normalFrameKey]; frame.isString())
         state.window.normalFrame = LMRectFromString(frame.toString());
+    if (state.window.normalFrame && state.window.normalFrame->isEmpty())
+        state.window.normalFrame.reset(); // Unreadable: no window has such a frame.
     state.stackingPosition = ordinal(object[stackingPositionKey]);
     return state;
 }
