@@ -132,7 +132,9 @@ TEST_F(StoredWindowsEditor, ChangesStatesAndTakesThatBack) {
         {u"&Above Others"_s, u"Maximized, above others, on desktop 2 “Two”"_s},
         {u"&Below Others"_s, u"Maximized, below others, on desktop 2 “Two”"_s},
         {u"On All Desktops"_s, u"Maximized, below others, on all desktops"_s},
-        {u"Ma&ximized"_s, u"Below others, on all desktops"_s},
+        {u"Mi&nimized"_s, u"Maximized, minimized, below others, on all desktops"_s},
+        {u"&Rolled Up"_s, u"Maximized, rolled up, below others, on all desktops"_s},
+        {u"Ma&ximized"_s, u"Rolled up, below others, on all desktops"_s},
         {u"Frame &Only"_s, u"Frame only"_s},
     };
     for (const auto& [entry, expected] : rows) {
