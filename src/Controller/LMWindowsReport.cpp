@@ -7,6 +7,7 @@
 #include "Model/LMStoredWindow.h"
 #include "Model/LMStoredWindowsStore.h"
 #include "Model/LMWindow.h"
+#include "Model/LMWindowArrangement.h"
 
 namespace {
 
@@ -27,11 +28,14 @@ QJsonObject liveWindow(const LMWindow& window) {
 QJsonObject LMReports::windows(const LMCommandParts& parts) {
     LMObjectContext& context = parts.store.managedObjectContext();
     const LMTransientScope transients(context);
+    const LMWindowArrangement arrangement(parts.environment);
     QJsonArray applications;
     for (LMApplication* application : LMApplication::currentApplications(context)) {
         QJsonArray windows;
-        for (const LMWindow* window : application->currentWindows())
+        for (LMWindow* window : application->currentWindows()) {
+            arrangement.describe(*window);
             windows.append(liveWindow(*window));
+        }
         applications.append(
             QJsonObject{{QStringLiteral("identifier"), application->bundleIdentifier()},
                         {QStringLiteral("name"), application->name()},

@@ -62,4 +62,18 @@ TEST_F(ControllerTest, PlanTellsWhatARestoreWouldDoAndChangesNothing) {
     EXPECT_EQ(events(), QString()) << "a dry run must touch nothing";
 }
 
+TEST_F(ControllerTest, WindowsAreListedWithTheirPlacesInThePile) {
+    const auto applications = LMReports::windows(delegate.commandParts())[u"applications"];
+    qsizetype count = 0;
+    for (const auto application : applications.toArray()) {
+        for (const auto window : application[u"windows"].toArray()) {
+            const int place = window[u"state"][u"stackingPosition"].toInt(-1);
+            const quint32 number = desktop.world().stacking.value(place);
+            EXPECT_EQ(window[u"title"].toString(), desktop.world().windows[number].title);
+            ++count;
+        }
+    }
+    EXPECT_GT(count, 2);
+}
+
 } // namespace
