@@ -2,10 +2,10 @@
 #include "Platform/X11/LMX11StackSetter.h"
 
 #include "Platform/X11/LMX11ApplicationIndex.h"
-#include "Platform/X11/LMX11Stacking.h"
 #include "Platform/X11/LMX11ViewGuard.h"
 #include "Platform/X11/LMX11WindowManager.h"
 
+#include <utility>
 #include <vector>
 
 using namespace std::chrono_literals;
@@ -46,13 +46,21 @@ LMPlatformStatus LMX11StackSetter::reach(const QList<xcb_window_t>& wanted) {
     const auto failed = LMPlatformStatus::failure(LMPlatformError::CannotComplete);
     if (!m_windowManager.isRunning())
         return failed;
-    QList<xcb_window_t> windows = windowsToLower(wanted);
-    if (windows.isEmpty())
+    if (plan(wanted, XCB_WINDOW_NONE).isEmpty())
         return LMPlatformStatus::success();
     LMX11ViewGuard view(m_connection, m_windowManager);
+    const bool canRestack = knowsRestacking();
+    const xcb_window_t staying = canRestack ? xcb_window_t(XCB_WINDOW_NONE) : view.activeWindow();
+    LMX11Restacking next = plan(wanted, staying);
     bool isAnswered = false;
     for (const bool insists : {false, true}) {
-        isAnswered = lower(windows, insists);
+        if (insists && canRestack) {
+            for (const xcb_window_t window : std::as_const(next.lowered))
+                m_windowManager.restackAtBottom(window);
+        } else {
+            insists ? requestAsIfUsed(next, staying) : request(next, staying);
+        }
+        isAnswered = waitForManager(next.size());
         const auto isNews = [this](const xcb_generic_event_t& event) {
             return LMXcbEventType(event) == XCB_PROPERTY_NOTIFY &&
                    reinterpret_cast<const xcb_property_notify_event_t&>(event).atom ==
@@ -60,18 +68,18 @@ LMPlatformStatus LMX11StackSetter::reach(const QList<xcb_window_t>& wanted) {
         };
         const auto deadline = after(answerTime);
         do {
-            windows = windowsToLower(wanted);
-        } while (!windows.isEmpty() &&
+            next = plan(wanted, staying);
+        } while (!next.isEmpty() &&
                  m_connection.waitForEvent(isNews, std::min(deadline, after(quietTime))));
-        if (windows.isEmpty())
+        if (next.isEmpty())
             break;
     }
     if (isAnswered)
         view.restore();
-    return isAnswered || windows.isEmpty() ? LMPlatformStatus::success() : failed;
+    return isAnswered || next.isEmpty() ? LMPlatformStatus::success() : failed;
 }
 
-QList<xcb_window_t> LMX11StackSetter::windowsToLower(const QList<xcb_window_t>& wanted) {
+LMX11Restacking LMX11StackSetter::plan(const QList<xcb_window_t>& wanted, xcb_window_t staying) {
     QList<LMX11StackedWindow> pile;
     const LMX11Reading reading = m_reader.readFrames(stackingOrder());
     for (const LMX11Window& window : reading.windows) {
@@ -79,26 +87,28 @@ QList<xcb_window_t> LMX11StackSetter::windowsToLower(const QList<xcb_window_t>& 
             pile.append({window.identifier, layerOf(window),
                          window.isOnAllDesktops() ? std::nullopt : window.desktop});
     }
-    return LMX11WindowsToLower(pile, wanted);
+    return LMX11PlanRestacking(pile, wanted, staying);
 }
 
-bool LMX11StackSetter::lower(const QList<xcb_window_t>& windows, bool insists) {
+bool LMX11StackSetter::knowsRestacking() {
     const xcb_ewmh_connection_t& atoms = m_connection.ewmhAtoms();
     const LMX11PropertyRequest supported(m_connection, m_connection.root(), atoms._NET_SUPPORTED);
-    const bool canRestack = supported.receive(m_connection).containsWord(atoms._NET_RESTACK_WINDOW);
-    if (insists && !canRestack) {
-        lowerAsIfUsed(windows);
-    } else {
-        for (const xcb_window_t window : windows)
-            insists ? m_windowManager.restackAtBottom(window) : m_windowManager.lower(window);
-    }
-    return waitForManager(windows.size());
+    return supported.receive(m_connection).containsWord(atoms._NET_RESTACK_WINDOW);
+}
+
+void LMX11StackSetter::request(const LMX11Restacking& plan, xcb_window_t staying) {
+    for (const xcb_window_t window : plan.lowered)
+        m_windowManager.lower(window);
+    xcb_window_t sibling = staying;
+    for (const xcb_window_t window : plan.raised)
+        m_windowManager.raiseOnto(window, std::exchange(sibling, window));
 }
 
 /// The times are put back. Managers do not take older ones to heart.
-void LMX11StackSetter::lowerAsIfUsed(const QList<xcb_window_t>& windows) {
+void LMX11StackSetter::requestAsIfUsed(const LMX11Restacking& plan, xcb_window_t staying) {
     const xcb_atom_t userTime = m_connection.ewmhAtoms()._NET_WM_USER_TIME;
     const uint32_t now = m_connection.serverTime();
+    const QList<xcb_window_t> windows = plan.lowered + plan.raised;
     std::vector<LMX11PropertyRequest> requests;
     for (const xcb_window_t window : windows)
         requests.emplace_back(m_connection, window, userTime);
@@ -109,8 +119,7 @@ void LMX11StackSetter::lowerAsIfUsed(const QList<xcb_window_t>& windows) {
     for (const xcb_window_t window : windows)
         set(window, now);
     waitForManager(windows.size());
-    for (const xcb_window_t window : windows)
-        m_windowManager.lower(window);
+    request(plan, staying);
     waitForManager(windows.size());
     for (qsizetype index = 0; index < windows.size(); ++index) {
         if (const auto before = requests[size_t(index)].receive(m_connection).firstWord())

@@ -2,20 +2,22 @@
 #pragma once
 
 #include "Platform/LMPlatformTypes.h"
+#include "Platform/X11/LMX11Stacking.h"
 #include "Platform/X11/LMX11WindowReader.h"
 
 class LMX11ApplicationIndex;
 class LMX11WindowManager;
 
 /// Brings windows into an order by lowering them one after the other, which goes to the bottom of
-/// their layer: the only request about the order that all managers obey without giving anybody the
-/// focus. Tried out:
+/// their layer: the request about the order that all managers obey without giving anybody else the
+/// focus, unless the active window is lowered. Tried out:
 ///
 ///                                 openbox 3.6  xfwm4 4.18   marco 1.26  kwin 5.27   mutter 43
 ///     lower (ConfigureWindow)     yes          yes          own (1)     yes         own (1)
 ///       the active window         keeps focus  loses focus  keeps it    keeps it    keeps it
 ///       bottom of                 everything   everything   desktop     everything  desktop
 ///     raise (ConfigureWindow)     yes          with focus   own (1)     refuses     own (1)
+///       onto a sibling            to the top   yes          own, top    yes         yes
 ///     _NET_RESTACK_WINDOW         yes          unknown      unknown     attention   yes
 ///       relative to a sibling     to the end   -            -           yes         ignores it
 ///
@@ -24,8 +26,9 @@ class LMX11WindowManager;
 /// order on desktops that are not in view.
 ///
 /// Hence: windows are lowered; where that does not help, by _NET_RESTACK_WINDOW if it is known,
-/// else as if they had just been used. What is in order already is left alone. xfwm4's active
-/// window gets the focus back, and with it the place in front of the others.
+/// else as if they had just been used. What is in order already is left alone. Where a manager
+/// knows no _NET_RESTACK_WINDOW, the active window is not lowered, as it may lose the focus: those
+/// in front of it are raised onto it.
 class LMX11StackSetter {
 public:
     /// All must outlive it.
@@ -39,9 +42,10 @@ public:
     LMPlatformStatus reach(const QList<xcb_window_t>& wanted);
 
 private:
-    QList<xcb_window_t> windowsToLower(const QList<xcb_window_t>& wanted);
-    bool lower(const QList<xcb_window_t>& windows, bool insists);
-    void lowerAsIfUsed(const QList<xcb_window_t>& windows);
+    LMX11Restacking plan(const QList<xcb_window_t>& wanted, xcb_window_t staying);
+    bool knowsRestacking();
+    void request(const LMX11Restacking& plan, xcb_window_t staying);
+    void requestAsIfUsed(const LMX11Restacking& plan, xcb_window_t staying);
     bool waitForManager(qsizetype requests);
 
     LMX11Connection& m_connection;

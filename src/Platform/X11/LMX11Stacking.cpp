@@ -51,9 +51,32 @@ bool addToLowered(const Windows& present, const Windows& wanted, Set& lowered) {
     return lowered.size() > before;
 }
 
+/// The whole layer of the window is put in order around it.
+LMX11Restacking around(xcb_window_t staying, const QList<LMX11StackedWindow>& pile,
+                       const Windows& order, const Set& lowered) {
+    const int layer = std::ranges::find(pile, staying, &LMX11StackedWindow::window)->layer;
+    Set neighbours;
+    for (const LMX11StackedWindow& each : pile) {
+        if (each.layer == layer)
+            neighbours.insert(each.window);
+    }
+    LMX11Restacking result;
+    bool isInFront = true;
+    for (const xcb_window_t window : order) {
+        if (window == staying)
+            isInFront = false;
+        else if (isInFront && neighbours.contains(window))
+            result.raised.prepend(window);
+        else if (lowered.contains(window) || neighbours.contains(window))
+            result.lowered.append(window);
+    }
+    return result;
+}
+
 } // namespace
 
-Windows LMX11WindowsToLower(const QList<LMX11StackedWindow>& pile, const Windows& wanted) {
+LMX11Restacking LMX11PlanRestacking(const QList<LMX11StackedWindow>& pile, const Windows& wanted,
+                                    xcb_window_t staying) {
     Windows present;
     for (const LMX11StackedWindow& each : pile)
         present.append(each.window);
@@ -82,5 +105,7 @@ Windows LMX11WindowsToLower(const QList<LMX11StackedWindow>& pile, const Windows
         for (const Set& view : views)
             hasGrown = addToLowered(only(present, view), only(order, view), lowered) || hasGrown;
     }
-    return only(order, lowered);
+    if (lowered.contains(staying))
+        return around(staying, pile, order, lowered);
+    return {only(order, lowered), {}};
 }

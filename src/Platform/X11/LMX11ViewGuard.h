@@ -14,6 +14,7 @@ public:
     LMX11ViewGuard(LMX11Connection& connection, LMX11WindowManager& windowManager);
 
     quint32 currentDesktop() const { return m_view.currentDesktop; }
+    xcb_window_t activeWindow() const { return m_view.activeWindow; }
     const QList<xcb_window_t>& stackingOrder() const { return m_view.stackingOrder; }
 
     /// To be called when the manager has done what it was asked. A window that is out of sight

@@ -144,6 +144,14 @@ void LMX11WindowManager::minimize(xcb_window_t window) {
     changeState(window, Change::Add, m_connection.ewmhAtoms()._NET_WM_STATE_HIDDEN);
 }
 
+template <typename Event>
+void LMX11WindowManager::sendRedirected(const Event& event) {
+    std::array<char, 32> buffer{}; // All events are of this size on the wire.
+    std::copy_n(reinterpret_cast<const char*>(&event), sizeof event, buffer.begin());
+    xcb_send_event(m_connection.xcb(), 0, m_connection.root(), XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                   buffer.data());
+}
+
 /// Really mapping it would not do: mutter leaves minimised windows mapped, and then the server
 /// passes no request on.
 void LMX11WindowManager::map(xcb_window_t window, std::optional<quint32> desktop) {
@@ -151,10 +159,7 @@ void LMX11WindowManager::map(xcb_window_t window, std::optional<quint32> desktop
     event.response_type = XCB_MAP_REQUEST;
     event.parent = m_connection.root();
     event.window = window;
-    std::array<char, 32> buffer{}; // All events are of this size on the wire.
-    std::copy_n(reinterpret_cast<const char*>(&event), sizeof event, buffer.begin());
-    xcb_send_event(m_connection.xcb(), 0, m_connection.root(), XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-                   buffer.data());
+    sendRedirected(event);
     if (desktop)
         sendToDesktop(window, *desktop);
     changeState(window, Change::Remove, m_connection.ewmhAtoms()._NET_WM_STATE_DEMANDS_ATTENTION);
@@ -168,6 +173,18 @@ void LMX11WindowManager::sendToDesktop(xcb_window_t window, quint32 desktop) {
 void LMX11WindowManager::lower(xcb_window_t window) {
     constexpr uint32_t below = XCB_STACK_MODE_BELOW;
     xcb_configure_window(m_connection.xcb(), window, XCB_CONFIG_WINDOW_STACK_MODE, &below);
+}
+
+/// Really configuring it would not do: framed windows are not siblings for the server.
+void LMX11WindowManager::raiseOnto(xcb_window_t window, xcb_window_t sibling) {
+    xcb_configure_request_event_t event{};
+    event.response_type = XCB_CONFIGURE_REQUEST;
+    event.stack_mode = XCB_STACK_MODE_ABOVE;
+    event.parent = m_connection.root();
+    event.window = window;
+    event.sibling = sibling;
+    event.value_mask = XCB_CONFIG_WINDOW_SIBLING | XCB_CONFIG_WINDOW_STACK_MODE;
+    sendRedirected(event);
 }
 
 void LMX11WindowManager::restackAtBottom(xcb_window_t window) {

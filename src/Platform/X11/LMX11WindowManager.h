@@ -46,7 +46,10 @@ public:
     void sendToDesktop(xcb_window_t window, quint32 desktop);
     /// To the bottom of its layer, as if the client itself asked for it.
     void lower(xcb_window_t window);
-    /// The same in the user's name, where the manager supports _NET_RESTACK_WINDOW.
+    /// Onto another of its layer, as if the client itself asked for it (ICCCM 4.1.5).
+    void raiseOnto(xcb_window_t window, xcb_window_t sibling);
+    /// To the bottom of its layer in the user's name, where the manager supports
+    /// _NET_RESTACK_WINDOW.
     void restackAtBottom(xcb_window_t window);
     /// Asks for the focus in the user's name.
     void activate(xcb_window_t window, xcb_window_t activeWindow);
@@ -55,6 +58,8 @@ public:
 private:
     xcb_window_t supportingWindow();
     QStringList missingProtocols();
+    template <typename Event>
+    void sendRedirected(const Event& event);
 
     LMX11Connection& m_connection;
     int16_t m_fence = 0;

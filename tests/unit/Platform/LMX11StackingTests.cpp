@@ -8,7 +8,7 @@
 
 // Any pile can be brought into any order, also partly given, and then needs nothing more. Other
 // windows keep their order among themselves.
-TEST(LMX11Stacking, LoweringBringsTheWantedOrderOnEveryDesktop) {
+TEST(LMX11Stacking, RequestsBringTheWantedOrderOnEveryDesktop) {
     std::mt19937 random(7);
     const auto below = [&random](int limit) { return int(random() % unsigned(limit)); };
     for (int round = 0; round < 2000; ++round) {
@@ -26,11 +26,23 @@ TEST(LMX11Stacking, LoweringBringsTheWantedOrderOnEveryDesktop) {
         std::ranges::shuffle(wanted, random);
         QList<xcb_window_t> goal = wanted;
         std::ranges::transform(pile, std::back_inserter(goal), &LMX11StackedWindow::window);
-        for (const xcb_window_t window : LMX11WindowsToLower(pile, wanted)) {
-            const auto at = std::ranges::find(pile, window, &LMX11StackedWindow::window);
-            std::rotate(at, at + 1, pile.end());
+        const xcb_window_t staying = xcb_window_t(below(10));
+        const bool obeysSiblings = below(2) == 0;
+        const auto find = [&](xcb_window_t window) {
+            return std::ranges::find(pile, window, &LMX11StackedWindow::window);
+        };
+        const LMX11Restacking plan = LMX11PlanRestacking(pile, wanted, staying);
+        ASSERT_FALSE((plan.lowered + plan.raised).contains(staying)) << round;
+        for (const xcb_window_t window : plan.lowered)
+            std::rotate(find(window), find(window) + 1, pile.end());
+        xcb_window_t sibling = staying;
+        for (const xcb_window_t window : plan.raised) {
+            const LMX11StackedWindow raised = *find(window);
+            pile.erase(find(window));
+            pile.insert(obeysSiblings ? find(sibling) : pile.begin(), raised);
+            sibling = window;
         }
-        ASSERT_TRUE(LMX11WindowsToLower(pile, wanted).isEmpty()) << round;
+        ASSERT_TRUE(LMX11PlanRestacking(pile, wanted, staying).isEmpty()) << round;
         for (auto lower = pile.begin(); lower != pile.end(); ++lower) {
             for (auto upper = pile.begin(); upper != lower; ++upper) {
                 const bool areSeenTogether =
