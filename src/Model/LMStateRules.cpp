@@ -78,25 +78,6 @@ bool isFullDown(const LMWindowState& state) {
     return state.isFullscreen || state.isMaximizedVertically;
 }
 
-bool isFrameRight(const LMWindowState& live, const QRectF& liveFrame, const LMWindowState& wanted,
-                  const LMWindowState& stored, const QRectF& storedFrame,
-                  const LMStateRules& rules) {
-    if (live.isMaximizedHorizontally != wanted.isMaximizedHorizontally ||
-        live.isMaximizedVertically != wanted.isMaximizedVertically ||
-        live.isFullscreen != wanted.isFullscreen)
-        return false;
-    if (!fillsMonitor(stored, rules))
-        return LMRectsEqual(liveFrame, storedFrame);
-    if (live.normalFrame && stored.normalFrame && *live.normalFrame != *stored.normalFrame)
-        return false;
-    const bool isRightAcross =
-        liveFrame.x() == storedFrame.x() && liveFrame.width() == storedFrame.width();
-    const bool isRightDown =
-        liveFrame.y() == storedFrame.y() && liveFrame.height() == storedFrame.height();
-    return isOnSameScreen(liveFrame, storedFrame, rules) &&
-           (isFullAcross(wanted) || isRightAcross) && (isFullDown(wanted) || isRightDown);
-}
-
 /// A frame within the one that the window fills when it is maximised: where it stands anyway if it
 /// stands there, else in the middle.
 QRectF frameWithin(const QRectF& own, const QRectF& filled) {
@@ -112,15 +93,44 @@ QRectF normalFrame(const LMWindowState& live, const QRectF& liveFrame, const LMW
                    const LMStateRules& rules) {
     if (!fillsMonitor(stored, rules))
         return storedFrame;
-    if (stored.normalFrame && isOnSameScreen(*stored.normalFrame, storedFrame, rules))
-        return *stored.normalFrame;
+    const bool isStored =
+        stored.normalFrame && isOnSameScreen(*stored.normalFrame, storedFrame, rules);
     QRectF frame =
-        frameWithin(stored.normalFrame.value_or(live.normalFrame.value_or(liveFrame)), storedFrame);
+        isStored ? *stored.normalFrame
+                 : frameWithin(stored.normalFrame.value_or(live.normalFrame.value_or(liveFrame)),
+                               storedFrame);
+    // In a direction that is not maximised the stored frame is what the user saw.
     if (!isFullAcross(wanted))
         frame = QRectF(storedFrame.x(), frame.y(), storedFrame.width(), frame.height());
     if (!isFullDown(wanted))
         frame = QRectF(frame.x(), storedFrame.y(), frame.width(), storedFrame.height());
     return frame;
+}
+
+bool isSameAcross(const QRectF& a, const QRectF& b) {
+    return a.x() == b.x() && a.width() == b.width();
+}
+
+bool isSameDown(const QRectF& a, const QRectF& b) {
+    return a.y() == b.y() && a.height() == b.height();
+}
+
+/// Where a window fills its monitor, its normal frame counts as far as it is known; elsewhere what
+/// the user sees.
+bool isFrameRight(const LMWindowState& live, const QRectF& liveFrame, const LMWindowState& wanted,
+                  const LMWindowState& stored, const QRectF& storedFrame, const QRectF& normal,
+                  const LMStateRules& rules) {
+    if (live.isMaximizedHorizontally != wanted.isMaximizedHorizontally ||
+        live.isMaximizedVertically != wanted.isMaximizedVertically ||
+        live.isFullscreen != wanted.isFullscreen)
+        return false;
+    if (!fillsMonitor(stored, rules))
+        return LMRectsEqual(liveFrame, storedFrame);
+    const QRectF own = stored.normalFrame ? live.normalFrame.value_or(normal) : normal;
+    return isOnSameScreen(liveFrame, storedFrame, rules) &&
+           (isFullAcross(wanted) ? isSameAcross(own, normal)
+                                 : isSameAcross(liveFrame, storedFrame)) &&
+           (isFullDown(wanted) ? isSameDown(own, normal) : isSameDown(liveFrame, storedFrame));
 }
 
 } // namespace
@@ -157,9 +167,10 @@ LMStateComparison LMCompareState(const LMWindowState& live, const QRectF& liveFr
     takeStates(result, stored, rules);
     takeDesktop(result, stored, rules);
     const LMWindowState& wanted = result.wanted;
-    result.isFrameRight = isFrameRight(live, liveFrame, wanted, stored, storedFrame, rules);
     result.needsStates = !LMStatesAgree(live, wanted);
     result.normalFrame = normalFrame(live, liveFrame, wanted, stored, storedFrame, rules);
+    result.isFrameRight =
+        isFrameRight(live, liveFrame, wanted, stored, storedFrame, result.normalFrame, rules);
     return result;
 }
 

@@ -133,6 +133,33 @@ TEST_F(StateRestorationTest, AWindowWhoseOwnFrameNobodyKnowsStaysOnItsMonitor) {
     }
 }
 
+TEST_F(StateRestorationTest, WhatIsNotMaximizedComesFromTheStoredFrame) {
+    LMApplication& application = store({{u"A"_s, left}});
+    const QRectF outdated(200, 310, 410, 333);
+    const std::tuple<LMWindowState, QRectF> rows[] = {
+        {state([](LMWindowState& s) { s.isMaximizedHorizontally = true; }),
+         {outdated.x(), left.y(), outdated.width(), left.height()}},
+        {state([](LMWindowState& s) { s.isMaximizedVertically = true; }),
+         {left.x(), outdated.y(), left.width(), outdated.height()}},
+    };
+    for (const auto& [stored, expected] : rows) {
+        application.removeAllWindows();
+        stand(elements[0], stored, left);
+        desktop.window(elements[0]).normalFrame = outdated;
+        application.storeWindows();
+        const QRectF wanted = frame(elements[0]);
+        application.restoreWindows();
+        EXPECT_EQ(changes(), QStringList()) << "nothing has changed";
+        stand(elements[0], state([](LMWindowState&) {}), onSecond);
+        application.restoreWindows();
+        EXPECT_EQ(frame(elements[0]), wanted);
+        EXPECT_EQ(desktop.window(elements[0]).normalFrame, expected);
+        changes();
+        application.restoreWindows();
+        EXPECT_EQ(changes(), QStringList()) << "what is right is left alone";
+    }
+}
+
 TEST_F(StateRestorationTest, ARecordWithoutAStateRestoresTheFrameAlone) {
     LMApplication& application = storeAs(state([](LMWindowState&) {}), left);
     application.orderedWindows()[0]->setStateString(QString());
