@@ -132,6 +132,22 @@ TEST_P(X11Contract, WindowsGoToTheirFramesFromEveryState) {
     }
 }
 
+// Who maximises a window at once after moving it leaves no time to find out where it was.
+TEST_P(X11Contract, ANormalFrameThatIsOutdatedIsForgotten) {
+    const LMElement window = open();
+    const QRectF stored(150, 120, 500, 400);
+    for (const char* move : {"-e 0,300,250,-1,-1", "-e 0,-1,-1,444,333"}) {
+        restore(window, stored);
+        run("wmctrl -i -r %1 %2", window, move);
+        enter(window, maximized);
+        const auto state = desktop().windowStates().stateOfWindow(window).valueOr({});
+        leave(window, maximized);
+        const QRectF normal = settledFrame(window);
+        EXPECT_NE(normal, stored);
+        EXPECT_EQ(state.normalFrame.value_or(normal), normal) << move;
+    }
+}
+
 // Some managers hold large windows on the screen: such a window gets to its place with its size.
 TEST_P(X11Contract, WindowsGetToAndBeyondTheCorner) {
     const LMElement window = open();

@@ -15,8 +15,9 @@ class LMX11ApplicationIndex;
 /// property tells; managers keep it to themselves.
 ///
 /// Windows are read when they have come to rest after a change, and whenever somebody reads them
-/// anyway. Nothing is known of a window that has been maximised for as long as it has been watched.
-/// Who moves a window and maximises it within 150 ms may be remembered with the frame before that.
+/// anyway. Nothing is known of a window that has been maximised for as long as it has been watched,
+/// nor of one that was moved and maximised before it had come to rest: no frame is better than a
+/// wrong one.
 class LMX11NormalFrames {
 public:
     /// Both must outlive it.
@@ -35,13 +36,26 @@ public:
     std::optional<QRect> frameOf(const LMX11Window& window, const QList<QRect>& monitors) const;
 
 private:
+    /// A place and size that a client's window was said to have had.
+    struct Passing {
+        QRect client;
+        bool isSent; ///< By the manager, in root coordinates; else those of the parent.
+    };
+    struct Record {
+        LMX11Geometry normal;
+        QList<QRect> filled;     ///< Clients' windows that filled the monitor since then.
+        QList<Passing> passings; ///< Since then, the latest ones.
+    };
+
     void observe(const xcb_generic_event_t& event);
+    void observeConfigure(const xcb_configure_notify_event_t& event);
     void readChangedWindows();
+    static bool hasMoved(const Record& record, const LMX11Geometry& now);
 
     LMX11Connection& m_connection;
     LMX11ApplicationIndex& m_index;
     LMX11WindowReader m_reader;
-    QHash<xcb_window_t, QRect> m_frames; ///< Root coordinates; for windows that exist.
+    QHash<xcb_window_t, Record> m_records; ///< For windows that exist.
     QSet<xcb_window_t> m_watched;
     QSet<xcb_window_t> m_changed;
     bool m_areWindowsNew = true;
