@@ -106,7 +106,7 @@ void LMX11StateSetter::send(const Task& task, const LMWindowState& is, Means mea
     }
     if (is.isMinimized && !wanted.isMinimized)
         show(window, wanted, means);
-    if (!is.isMinimized || means == Means::Mapping) // Its state may not suffice to show it.
+    if (!is.isMinimized)
         changeWhatDiffers(Change::Add, &S::isShaded, atoms._NET_WM_STATE_SHADED);
     if (!is.isMinimized && wanted.isMinimized)
         m_windowManager.minimize(window);
