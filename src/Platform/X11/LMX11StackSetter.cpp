@@ -104,11 +104,24 @@ void LMX11StackSetter::request(const LMX11Restacking& plan, xcb_window_t staying
         m_windowManager.raiseOnto(window, std::exchange(sibling, window));
 }
 
+/// Many toolkits keep the time in a window of its own.
+QList<xcb_window_t> LMX11StackSetter::timeWindows(QList<xcb_window_t> windows) {
+    const xcb_atom_t timeWindow = m_connection.ewmhAtoms()._NET_WM_USER_TIME_WINDOW;
+    std::vector<LMX11PropertyRequest> requests;
+    for (const xcb_window_t window : std::as_const(windows))
+        requests.emplace_back(m_connection, window, timeWindow);
+    for (qsizetype index = 0; index < windows.size(); ++index) {
+        const auto kept = requests[size_t(index)].receive(m_connection).firstWord();
+        windows[index] = kept.value_or(windows[index]);
+    }
+    return windows;
+}
+
 /// The times are put back. Managers do not take older ones to heart.
 void LMX11StackSetter::requestAsIfUsed(const LMX11Restacking& plan, xcb_window_t staying) {
     const xcb_atom_t userTime = m_connection.ewmhAtoms()._NET_WM_USER_TIME;
     const uint32_t now = m_connection.serverTime();
-    const QList<xcb_window_t> windows = plan.lowered + plan.raised;
+    const QList<xcb_window_t> windows = timeWindows(plan.lowered + plan.raised);
     std::vector<LMX11PropertyRequest> requests;
     for (const xcb_window_t window : windows)
         requests.emplace_back(m_connection, window, userTime);

@@ -46,6 +46,7 @@ private:
     bool knowsRestacking();
     void request(const LMX11Restacking& plan, xcb_window_t staying);
     void requestAsIfUsed(const LMX11Restacking& plan, xcb_window_t staying);
+    QList<xcb_window_t> timeWindows(QList<xcb_window_t> windows);
     bool waitForManager(qsizetype requests);
 
     LMX11Connection& m_connection;
