@@ -13,12 +13,18 @@ using namespace std::chrono_literals;
 
 namespace {
 
+/// The loader tells addresses as numbers.
+template <class T>
+T* pointerTo(std::uintptr_t address) {
+    return reinterpret_cast<T*>(address); // NOLINT(performance-no-int-to-ptr)
+}
+
 bool hasTextRelocations(const dl_phdr_info& object) {
     for (const auto* header = object.dlpi_phdr; header != object.dlpi_phdr + object.dlpi_phnum;
          ++header) {
         if (header->p_type != PT_DYNAMIC)
             continue;
-        const auto* entry = reinterpret_cast<const ElfW(Dyn)*>(object.dlpi_addr + header->p_vaddr);
+        const auto* entry = pointerTo<const ElfW(Dyn)>(object.dlpi_addr + header->p_vaddr);
         for (; entry->d_tag != DT_NULL; ++entry) {
             if (entry->d_tag == DT_TEXTREL)
                 return true;
@@ -39,7 +45,7 @@ int releaseReadOnlySegments(dl_phdr_info* object, std::size_t, void*) {
             continue;
         const std::uintptr_t begin = (object->dlpi_addr + header->p_vaddr) & ~(pageSize - 1);
         const std::uintptr_t end = object->dlpi_addr + header->p_vaddr + header->p_memsz;
-        madvise(reinterpret_cast<void*>(begin), end - begin, MADV_DONTNEED);
+        madvise(pointerTo<void>(begin), end - begin, MADV_DONTNEED);
     }
     return 0;
 }

@@ -16,6 +16,9 @@ LMFrontEnd::makeUserInterface(LMEnvironment& environment, LMStoredWindowsStore&,
     return std::make_unique<LMWindowlessUserInterface>(environment.logger);
 }
 
+// Handlers come by value for the build that keeps them.
+// NOLINTBEGIN(performance-unnecessary-value-param)
 void LMFrontEnd::setCommitDataHandler(std::function<void()>) {}
 
 void LMFrontEnd::setLastWindowClosedHandler(std::function<void()>) {}
+// NOLINTEND(performance-unnecessary-value-param)
