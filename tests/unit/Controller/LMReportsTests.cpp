@@ -63,10 +63,12 @@ TEST_F(ControllerTest, PlanTellsWhatARestoreWouldDoAndChangesNothing) {
 }
 
 TEST_F(ControllerTest, WindowsAreListedWithTheirPlacesInThePile) {
-    const auto applications = LMReports::windows(delegate.commandParts())[u"applications"];
+    const QJsonObject report = LMReports::windows(delegate.commandParts());
+    const QJsonArray applications = report[u"applications"].toArray();
     qsizetype count = 0;
-    for (const auto application : applications.toArray()) {
-        for (const auto window : application[u"windows"].toArray()) {
+    for (const QJsonValue application : applications) {
+        const QJsonArray windows = application[u"windows"].toArray();
+        for (const QJsonValue window : windows) {
             const int place = window[u"state"][u"stackingPosition"].toInt(-1);
             const quint32 number = desktop.world().stacking.value(place);
             EXPECT_EQ(window[u"title"].toString(), desktop.world().windows[number].title);
