@@ -49,16 +49,16 @@ def milliseconds_to_ready(desktop: Desktop, rook: Resident) -> float:
 def multiply_stored_windows(store: Path) -> None:
     """Copies the stored windows of the one application until there are as many as wanted."""
     with sqlite3.connect(store) as database:
+        database.row_factory = sqlite3.Row
         stored = database.execute('SELECT * FROM "StoredWindow"').fetchall()
         snapshots = {row[1]: row for row in database.execute('SELECT * FROM "Window"')}
         ordering = []
         for number in range(STORED):
-            _, application, label, pattern, frame, _ = original = stored[number % len(stored)]
-            _, _, title, *shape = snapshots[original[0]]
+            original = dict(stored[number % len(stored)])
+            _, _, title, *shape = snapshots[original["key"]]
             key = 10_000 + number
-            matching = json.dumps([f"rook://Window/{key}"])
-            database.execute('INSERT INTO "StoredWindow" VALUES (?, ?, ?, ?, ?, ?)',
-                             (key, application, label, pattern, frame, matching))
+            copy = original | {"key": key, "matchingWindowsOrdering": json.dumps([f"rook://Window/{key}"])}
+            database.execute(f'INSERT INTO "StoredWindow" VALUES ({", ".join("?" * len(copy))})', tuple(copy.values()))
             database.execute(f'INSERT INTO "Window" VALUES ({", ".join("?" * (3 + len(shape)))})',
                              (key, key, f"{title} of {number}", *shape))
             ordering.append(f"rook://StoredWindow/{key}")
