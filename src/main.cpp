@@ -62,6 +62,9 @@ int handOver(const QDBusConnection& bus) {
 /// Everything the resident process consists of besides the desktop, in the order it is built.
 int serve(LMFrontEnd& frontEnd, LMDesktop& desktop, LMLogger& logger, LMUnixSignals& signals,
           const QDBusConnection& bus) {
+    LMIdleMemory
+        idleMemory; // Outlives the windows, the last of which may close as it is destroyed.
+    frontEnd.setLastWindowClosedHandler([&idleMemory] { idleMemory.releaseSoon(); });
     LMUserDefaults userDefaults(LMUserDefaults::defaultFilePath(), logger);
     LMFolders folders = LMFolders::forCurrentUser(logger);
     LMSystemClock clock;
@@ -90,8 +93,6 @@ int serve(LMFrontEnd& frontEnd, LMDesktop& desktop, LMLogger& logger, LMUnixSign
     frontEnd.setCommitDataHandler([&delegate] { delegate.commitData(); });
     // The toolkit leaves by exit() when the X server dies and it notices first.
     const LMExitGuard exitGuard([&delegate] { delegate.cleanAndSave(); });
-    LMIdleMemory idleMemory;
-    frontEnd.setLastWindowClosedHandler([&idleMemory] { idleMemory.releaseSoon(); });
     if (delegate.finishLaunching()) {
         idleMemory.releaseSoon();
         QCoreApplication::exec();
