@@ -62,8 +62,8 @@ int handOver(const QDBusConnection& bus) {
 /// Everything the resident process consists of besides the desktop, in the order it is built.
 int serve(LMFrontEnd& frontEnd, LMDesktop& desktop, LMLogger& logger, LMUnixSignals& signals,
           const QDBusConnection& bus) {
-    LMIdleMemory
-        idleMemory; // Outlives the windows, the last of which may close as it is destroyed.
+    // Outlives the windows, the last of which may close as it is destroyed.
+    LMIdleMemory idleMemory;
     frontEnd.setLastWindowClosedHandler([&idleMemory] { idleMemory.releaseSoon(); });
     LMUserDefaults userDefaults(LMUserDefaults::defaultFilePath(), logger);
     LMFolders folders = LMFolders::forCurrentUser(logger);
