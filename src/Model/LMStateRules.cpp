@@ -167,7 +167,6 @@ LMStateComparison LMCompareState(const LMWindowState& live, const QRectF& liveFr
     takeStates(result, stored, rules);
     takeDesktop(result, stored, rules);
     const LMWindowState& wanted = result.wanted;
-    result.needsStates = !LMStatesAgree(live, wanted);
     result.normalFrame = normalFrame(live, liveFrame, wanted, stored, storedFrame, rules);
     result.isFrameRight =
         isFrameRight(live, liveFrame, wanted, stored, storedFrame, result.normalFrame, rules);

@@ -29,8 +29,6 @@ struct LMStateComparison {
     LMWindowState wanted; ///< What the live window is to become.
     /// Frame, maximising and fullscreen are as stored: nothing of the frame needs to be set.
     bool isFrameRight = false;
-    /// Nothing but the wanted state is left to be done.
-    bool needsStates = false;
     /// The frame to give the window while it is neither maximised nor fullscreen.
     QRectF normalFrame;
     /// What stays as it is although it was stored otherwise, because it cannot be had here: names
