@@ -39,8 +39,8 @@ std::optional<QRectF> frameToSet(const LMWindowAssignment& assignment,
     return states ? states->frameFor(*assignment.window, storedWindow) : storedWindow.frame();
 }
 
-void restoreFrame(LMApplication& application, LMWindow& window, const QRectF& frame,
-                  bool positions) {
+void restoreFrame(LMApplication& application, LMWindow& window, const LMStoredWindow& storedWindow,
+                  const QRectF& frame, bool positions) {
     LMEnvironment& environment = application.environment();
     const bool unhidden = positions && unhideForMove(application, window, frame);
     // These programs follow the first request only half way.
@@ -48,9 +48,9 @@ void restoreFrame(LMApplication& application, LMWindow& window, const QRectF& fr
                                                            application.bundleIdentifier());
     for (int round = 0; round < (twice ? 2 : 1); ++round) {
         if (positions)
-            window.restorePositionWithWindow(frame);
+            window.restorePositionWithWindow(storedWindow, frame);
         else
-            window.restoreSizeWithWindow(frame);
+            window.restoreSizeWithWindow(storedWindow, frame);
     }
     if (unhidden)
         LMWaitAndHide(environment, application.processIdentifier());
@@ -89,7 +89,7 @@ void restoreAssignedWindows(LMApplication& application, const LMRestorePlan& pla
             logger.debug(QStringLiteral("\t\t\"%@\" MATCHED \"%@\""),
                          {storedWindow->labelOrTitleIfNil(), assignment.window->title()});
         if (const auto frame = frameToSet(assignment, states))
-            restoreFrame(application, *assignment.window, *frame, positions);
+            restoreFrame(application, *assignment.window, *storedWindow, *frame, positions);
     }
 }
 
@@ -146,11 +146,12 @@ void LMApplication::restoreWindowSizesOrPositions(bool positions, LMStateRestora
         }
     }
     LMRestorePlan plan = restorePlan();
-    if (states && positions)
-        states->begin(plan, storesFloating && running->isHidden ? LMMinimized::StaysMinimized
-                                                                : LMMinimized::MayBeShown);
-    else if (states)
-        states->keepDecisions(plan);
+    if (states) {
+        const LMMinimized minimized = storesFloating && running->isHidden
+                                          ? LMMinimized::StaysMinimized
+                                          : LMMinimized::MayBeShown;
+        positions ? states->begin(plan, minimized) : states->reconsider(plan, minimized);
+    }
     restoreAssignedWindows(*this, plan, positions, states);
     logUnmatchedWindows(environment().logger, plan);
     if (storesFloating && running->isHidden && !LMSpacesInUse(environment()))

@@ -41,15 +41,25 @@ LMStateRestoration::Decision* LMStateRestoration::decide(const LMWindowAssignmen
     Decision* decision = decisionFor(element);
     if (!decision)
         decision = &m_decisions.emplace_back();
-    *decision = {element, storedWindow, *stored, storedWindow->frame(), std::nullopt, minimized};
+    *decision = {element,      storedWindow, *stored, storedWindow->frame(),
+                 std::nullopt, minimized,    false};
     return decision;
 }
 
-void LMStateRestoration::keepDecisions(LMRestorePlan& plan) const {
+void LMStateRestoration::reconsider(LMRestorePlan& plan, LMMinimized minimized) {
+    LMRestorePlan changed;
     for (LMWindowAssignment& assignment : plan.assignments) {
-        if (const Decision* decision = decisionFor(assignment.window->element()))
-            assignment.match.storedWindow = decision->storedWindow;
+        const LMElement& element = assignment.window->element();
+        LMStoredWindow*& storedWindow = assignment.match.storedWindow;
+        const Decision* decision = decisionFor(element);
+        if (decision && decision->hasLeftState)
+            storedWindow = decision->storedWindow;
+        if (decision ? decision->storedWindow == storedWindow : !storedWindow)
+            continue;
+        std::erase_if(m_decisions, [&](const Decision& each) { return each.element == element; });
+        changed.assignments.push_back(assignment);
     }
+    begin(changed, minimized);
 }
 
 std::optional<QRectF> LMStateRestoration::frameFor(const LMWindow& window,
@@ -82,6 +92,7 @@ void LMStateRestoration::begin(const LMRestorePlan& plan, LMMinimized minimized)
         if (LMStatesAgree(state, live->window))
             continue;
         changes.append({decision->element, state});
+        decision->hasLeftState = decision->frame.has_value() && m_rules.restoresStates;
         if (decision->frame && !live->window.normalFrame)
             unsized.push_back(decision->element);
     }

@@ -24,6 +24,7 @@ enum class LMMinimized { MayBeShown, StaysMinimized };
 ///     begin()           before an application's positions: out of the states in which a window
 ///                       keeps no frame of its own, and to its desktop
 ///     frameFor()        in both passes
+///     reconsider()      before its sizes
 ///     finishStates()    after the sizes: into the states, minimised ones last
 ///     finishStackingOrder()   once, when all applications are done
 ///
@@ -37,9 +38,10 @@ public:
     /// Takes note of which stored window each live window takes.
     void begin(const LMRestorePlan& plan, LMMinimized minimized = LMMinimized::MayBeShown);
 
-    /// Lets the windows that begin has seen take what they took then: the size they have now may be
-    /// another than the one the user knows them by.
-    void keepDecisions(LMRestorePlan& plan) const;
+    /// Between the passes. Windows that begin has taken out of a state take what they took then,
+    /// for they have another size than the one the user knows them by. Others take what they match
+    /// now, with its state.
+    void reconsider(LMRestorePlan& plan, LMMinimized minimized);
 
     /// The frame to set; none when there is nothing to set.
     std::optional<QRectF> frameFor(const LMWindow& window,
@@ -61,6 +63,7 @@ private:
         QRectF storedFrame;
         std::optional<QRectF> frame; ///< To set; none when it is right.
         LMMinimized minimized = LMMinimized::MayBeShown;
+        bool hasLeftState = false; ///< With the size that went with it.
     };
 
     Decision* decisionFor(const LMElement& element);

@@ -90,10 +90,12 @@ public:
     bool isIdenticalToWindow(const LMWindow& other) const;
 
     // --- restoring ----------------------------------------------------------------------------
-    /// Each sets a part of the live window's frame to that of the frame it is to have. A refusal is
-    /// logged and swallowed.
-    void restorePositionWithWindow(const QRectF& storedFrame);
-    void restoreSizeWithWindow(const QRectF& storedFrame);
+    /// Each sets a part of the live window's frame to the stored window's, or to the frame that its
+    /// state asks for instead. A refusal is logged and swallowed.
+    void restorePositionWithWindow(const LMStoredWindow& storedWindow,
+                                   const std::optional<QRectF>& frame = std::nullopt);
+    void restoreSizeWithWindow(const LMStoredWindow& storedWindow,
+                               const std::optional<QRectF>& frame = std::nullopt);
     /// Position, a pause of one second, size; the state, where the stored window has one.
     void restoreWithWindow(LMStoredWindow& storedWindow);
     /// Whether moving the window to the rectangle would carry it to another screen with spaces of

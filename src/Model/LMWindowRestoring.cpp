@@ -14,9 +14,11 @@
 
 using namespace std::chrono_literals;
 
-void LMWindow::restorePositionWithWindow(const QRectF& storedFrame) {
+void LMWindow::restorePositionWithWindow(const LMStoredWindow& storedWindow,
+                                         const std::optional<QRectF>& frame) {
     try {
-        LMElementSetPosition(environment(), m_element, storedFrame.topLeft());
+        LMElementSetPosition(environment(), m_element,
+                             frame.value_or(storedWindow.frame()).topLeft());
     } catch (const LMAccessibilityException& exception) {
         const LMLogger& logger = environment().logger;
         logger.debug(QStringLiteral("Unable to restore window position: %@"), {m_title});
@@ -24,9 +26,10 @@ void LMWindow::restorePositionWithWindow(const QRectF& storedFrame) {
     }
 }
 
-void LMWindow::restoreSizeWithWindow(const QRectF& storedFrame) {
+void LMWindow::restoreSizeWithWindow(const LMStoredWindow& storedWindow,
+                                     const std::optional<QRectF>& frame) {
     try {
-        LMElementSetSize(environment(), m_element, storedFrame.size());
+        LMElementSetSize(environment(), m_element, frame.value_or(storedWindow.frame()).size());
     } catch (const LMAccessibilityException& exception) {
         const LMLogger& logger = environment().logger;
         logger.debug(QStringLiteral("Unable to restore window size: %@"), {m_title});
@@ -42,10 +45,10 @@ void LMWindow::restoreWithWindow(LMStoredWindow& storedWindow) {
     states.begin(plan);
     const auto frame = states.frameFor(*this, storedWindow);
     if (frame)
-        restorePositionWithWindow(*frame);
+        restorePositionWithWindow(storedWindow, frame);
     environment().clock.sleep(1s);
     if (frame)
-        restoreSizeWithWindow(*frame);
+        restoreSizeWithWindow(storedWindow, frame);
     states.finishStates();
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "EngineTest.h"
+#include "Model/LMStateRestoration.h"
 #include "Model/LMStateRules.h"
 
 namespace {
@@ -260,6 +261,20 @@ TEST_F(StateRestorationTest, AlikeWindowsKeepTheirStoredWindowWhenTheirSizeChang
     EXPECT_EQ(now(elements[0]), maximized);
     EXPECT_EQ(frame(elements[0]), first);
     EXPECT_EQ(frame(elements[1]), right);
+}
+
+TEST_F(StateRestorationTest, AWindowThatTurnsIntoAnotherBetweenThePassesTakesItsState) {
+    const LMWindowState minimized = state([](LMWindowState& s) { s.isMinimized = true; });
+    LMApplication& application =
+        store({{u"A"_s, left}, {.title = u"B"_s, .frame = right, .state = minimized}});
+    desktop.removeWindow(elements[1]);
+    LMStateRestoration states(environment);
+    application.restoreWindowPositions(&states);
+    desktop.window(elements[0]).title = u"B"_s;
+    application.restoreWindowSizes(&states);
+    states.finishStates();
+    EXPECT_EQ(frame(elements[0]).size(), right.size());
+    EXPECT_TRUE(now(elements[0]).isMinimized);
 }
 
 TEST_F(StateRestorationTest, HiddenApplicationsWithFloatingWindowsStayHidden) {
