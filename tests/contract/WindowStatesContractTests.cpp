@@ -2,6 +2,8 @@
 #include "contract/LMContractTest.h"
 
 #include <algorithm>
+#include <map>
+#include <random>
 
 namespace {
 
@@ -171,6 +173,41 @@ TEST_P(WindowStatesContract, WindowsArePiledUpAsWanted) {
         std::ranges::rotate(order, order.begin() + 1);
         EXPECT_TRUE(inTime(bool(all().setStackingOrder(order))));
         EXPECT_TRUE(LMWaitUntil([&] { return pile() == QList{above} + order; })) << round;
+        EXPECT_EQ(backend->view(), view);
+    }
+}
+
+TEST_P(WindowStatesContract, WindowsOfAllDesktopsStandInOrderOnEachOfThem) {
+    constexpr int everywhere = -1;
+    std::map<LMElement, int> desktops;
+    QList<LMElement> order;
+    for (const int desktop : {0, everywhere, 1, 2, everywhere, 1}) {
+        const LMElement window =
+            open({.application = order.size() % 2 == 0 ? u"first"_qs : u"second"_qs});
+        ASSERT_TRUE(setState(
+            window, {.isKeptAbove = true,
+                     .isOnAllDesktops = desktop == everywhere,
+                     .desktop = desktop == everywhere ? std::nullopt : std::optional(desktop)}));
+        desktops[window] = desktop;
+        order.append(window);
+    }
+    const auto pile = [&](QList<LMElement> windows, int desktop) {
+        windows.removeIf([&](const LMElement& window) {
+            const auto at = desktops.find(window);
+            return at == desktops.end() || (at->second != desktop && at->second != everywhere);
+        });
+        return windows;
+    };
+    const LMContractView view = focusOn(open());
+    std::mt19937 random(5);
+    for (int round = 0; round < 8; ++round) {
+        std::ranges::shuffle(order, random);
+        EXPECT_TRUE(inTime(bool(all().setStackingOrder(order))));
+        for (const int desktop : {0, 1, 2})
+            EXPECT_TRUE(LMWaitUntil([&] {
+                return pile(all().stackingOrder(), desktop) == pile(order, desktop);
+            })) << round
+                << " on desktop " << desktop;
         EXPECT_EQ(backend->view(), view);
     }
 }

@@ -46,48 +46,57 @@ LMPlatformStatus LMX11StackSetter::reach(const QList<xcb_window_t>& wanted) {
     const auto failed = LMPlatformStatus::failure(LMPlatformError::CannotComplete);
     if (!m_windowManager.isRunning())
         return failed;
-    if (plan(wanted, XCB_WINDOW_NONE).isEmpty())
+    if (LMX11PlanRestacking(pile(), wanted).isEmpty())
         return LMPlatformStatus::success();
     LMX11ViewGuard view(m_connection, m_windowManager);
     const bool canRestack = knowsRestacking();
     const xcb_window_t staying = canRestack ? xcb_window_t(XCB_WINDOW_NONE) : view.activeWindow();
-    LMX11Restacking next = plan(wanted, staying);
+    const QList<Means> allMeans = canRestack
+                                      ? QList{Means::Asking, Means::Siblings}
+                                      : QList{Means::Asking, Means::AsIfUsed, Means::ByDesktop};
+    LMX11Restacking next = LMX11PlanRestacking(pile(), wanted, staying);
     bool isAnswered = false;
-    for (const bool insists : {false, true}) {
-        if (insists && canRestack) {
-            for (const xcb_window_t window : std::as_const(next.lowered))
-                m_windowManager.restackAtBottom(window);
-        } else {
-            insists ? requestAsIfUsed(next, staying) : request(next, staying);
-        }
-        isAnswered = waitForManager(next.size());
-        const auto isNews = [this](const xcb_generic_event_t& event) {
-            return LMXcbEventType(event) == XCB_PROPERTY_NOTIFY &&
-                   reinterpret_cast<const xcb_property_notify_event_t&>(event).atom ==
-                       m_connection.ewmhAtoms()._NET_CLIENT_LIST_STACKING;
-        };
-        const auto deadline = after(answerTime);
-        do {
-            next = plan(wanted, staying);
-        } while (!next.isEmpty() &&
-                 m_connection.waitForEvent(isNews, std::min(deadline, after(quietTime))));
+    for (const Means means : allMeans) {
+        if (means == Means::ByDesktop)
+            next = LMX11PlanRestackingByDesktop(pile(), wanted, view.currentDesktop());
         if (next.isEmpty())
             break;
+        request(next, staying, means);
+        isAnswered = waitForManager(next.order.size());
+        next = waitForOrder(wanted, staying);
     }
     if (isAnswered)
         view.restore();
     return isAnswered || next.isEmpty() ? LMPlatformStatus::success() : failed;
 }
 
-LMX11Restacking LMX11StackSetter::plan(const QList<xcb_window_t>& wanted, xcb_window_t staying) {
-    QList<LMX11StackedWindow> pile;
+QList<LMX11StackedWindow> LMX11StackSetter::pile() {
+    QList<LMX11StackedWindow> result;
     const LMX11Reading reading = m_reader.readFrames(stackingOrder());
     for (const LMX11Window& window : reading.windows) {
         if (window.exists)
-            pile.append({window.identifier, layerOf(window),
-                         window.isOnAllDesktops() ? std::nullopt : window.desktop});
+            result.append({window.identifier, layerOf(window),
+                           window.isOnAllDesktops() ? std::nullopt : window.desktop,
+                           window.states.isFullscreen});
     }
-    return LMX11PlanRestacking(pile, wanted, staying);
+    return result;
+}
+
+/// What is left to be done when the manager has had time to tell the new order.
+LMX11Restacking LMX11StackSetter::waitForOrder(const QList<xcb_window_t>& wanted,
+                                               xcb_window_t staying) {
+    const auto isNews = [this](const xcb_generic_event_t& event) {
+        return LMXcbEventType(event) == XCB_PROPERTY_NOTIFY &&
+               reinterpret_cast<const xcb_property_notify_event_t&>(event).atom ==
+                   m_connection.ewmhAtoms()._NET_CLIENT_LIST_STACKING;
+    };
+    const auto deadline = after(answerTime);
+    LMX11Restacking next;
+    do {
+        next = LMX11PlanRestacking(pile(), wanted, staying);
+    } while (!next.isEmpty() &&
+             m_connection.waitForEvent(isNews, std::min(deadline, after(quietTime))));
+    return next;
 }
 
 bool LMX11StackSetter::knowsRestacking() {
@@ -96,11 +105,35 @@ bool LMX11StackSetter::knowsRestacking() {
     return supported.receive(m_connection).containsWord(atoms._NET_RESTACK_WINDOW);
 }
 
-void LMX11StackSetter::request(const LMX11Restacking& plan, xcb_window_t staying) {
-    for (const xcb_window_t window : plan.lowered)
+void LMX11StackSetter::request(const LMX11Restacking& plan, xcb_window_t staying, Means means) {
+    switch (means) {
+    case Means::Asking:
+        lower(plan.lowered);
+        raise(plan.raised, staying);
+        break;
+    case Means::Siblings:
+        for (qsizetype index = 1; index < plan.order.size(); ++index)
+            m_windowManager.restackBelow(plan.order[index], plan.order[index - 1]);
+        break;
+    case Means::AsIfUsed:
+        asIfUsed(plan.lowered + plan.raised, [&] { request(plan, staying, Means::Asking); });
+        break;
+    case Means::ByDesktop:
+        asIfUsed(plan.order, [&] {
+            raise(plan.raised, staying);
+            lower(plan.lowered);
+        });
+        break;
+    }
+}
+
+void LMX11StackSetter::lower(const QList<xcb_window_t>& windows) {
+    for (const xcb_window_t window : windows)
         m_windowManager.lower(window);
-    xcb_window_t sibling = staying;
-    for (const xcb_window_t window : plan.raised)
+}
+
+void LMX11StackSetter::raise(const QList<xcb_window_t>& windows, xcb_window_t sibling) {
+    for (const xcb_window_t window : windows)
         m_windowManager.raiseOnto(window, std::exchange(sibling, window));
 }
 
@@ -117,14 +150,16 @@ QList<xcb_window_t> LMX11StackSetter::timeWindows(QList<xcb_window_t> windows) {
     return windows;
 }
 
-/// The times are put back. Managers do not take older ones to heart.
-void LMX11StackSetter::requestAsIfUsed(const LMX11Restacking& plan, xcb_window_t staying) {
+/// Requests what is to be requested while the windows are the last ones that were used. The times
+/// are put back. Managers do not take older ones to heart.
+void LMX11StackSetter::asIfUsed(const QList<xcb_window_t>& used,
+                                const std::function<void()>& requests) {
     const xcb_atom_t userTime = m_connection.ewmhAtoms()._NET_WM_USER_TIME;
     const uint32_t now = m_connection.serverTime();
-    const QList<xcb_window_t> windows = timeWindows(plan.lowered + plan.raised);
-    std::vector<LMX11PropertyRequest> requests;
+    const QList<xcb_window_t> windows = timeWindows(used);
+    std::vector<LMX11PropertyRequest> times;
     for (const xcb_window_t window : windows)
-        requests.emplace_back(m_connection, window, userTime);
+        times.emplace_back(m_connection, window, userTime);
     const auto set = [&](xcb_window_t window, uint32_t time) {
         xcb_change_property(m_connection.xcb(), XCB_PROP_MODE_REPLACE, window, userTime,
                             XCB_ATOM_CARDINAL, 32, 1, &time);
@@ -132,10 +167,10 @@ void LMX11StackSetter::requestAsIfUsed(const LMX11Restacking& plan, xcb_window_t
     for (const xcb_window_t window : windows)
         set(window, now);
     waitForManager(windows.size());
-    request(plan, staying);
+    requests();
     waitForManager(windows.size());
     for (qsizetype index = 0; index < windows.size(); ++index) {
-        if (const auto before = requests[size_t(index)].receive(m_connection).firstWord())
+        if (const auto before = times[size_t(index)].receive(m_connection).firstWord())
             set(windows[index], *before);
         else
             xcb_delete_property(m_connection.xcb(), windows[index], userTime);

@@ -5,6 +5,8 @@
 #include "Platform/X11/LMX11Stacking.h"
 #include "Platform/X11/LMX11WindowReader.h"
 
+#include <functional>
+
 class LMX11ApplicationIndex;
 class LMX11WindowManager;
 
@@ -19,16 +21,18 @@ class LMX11WindowManager;
 ///     raise (ConfigureWindow)     yes          with focus   own (1)     refuses     own (1)
 ///       onto a sibling            to the top   yes          own, top    yes         yes
 ///     _NET_RESTACK_WINDOW         yes          unknown      unknown     attention   yes
-///       relative to a sibling     to the end   -            -           yes         ignores it
+///       below a sibling           to the end   -            -           yes         yes (2)
 ///
 /// (1) Windows of the active application. Others are to have been used later than the active
-/// window, as their _NET_WM_USER_TIME says. Under both, a window of all desktops may be out of
-/// order on desktops that are not in view.
+/// window, as their _NET_WM_USER_TIME says. Desktop: a window of all desktops goes to the bottom,
+/// or to the top, of those of the current one. (2) Leaves a window where it is that is behind its
+/// sibling already, however far.
 ///
-/// Hence: windows are lowered; where that does not help, by _NET_RESTACK_WINDOW if it is known,
-/// else as if they had just been used. What is in order already is left alone. Where a manager
-/// knows no _NET_RESTACK_WINDOW, the active window is not lowered, as it may lose the focus: those
-/// in front of it are raised onto it.
+/// Hence: windows are lowered. Where that does not help, each is put behind the one in front of it
+/// by _NET_RESTACK_WINDOW if it is known, else lowered as if it had just been used; should desktops
+/// out of sight be out of order then, all are, see LMX11PlanRestackingByDesktop. What is in order
+/// already is left alone. Where a manager knows no _NET_RESTACK_WINDOW, the active window is not
+/// lowered before that, as it may lose the focus: those in front of it are raised onto it.
 class LMX11StackSetter {
 public:
     /// All must outlive it.
@@ -42,11 +46,16 @@ public:
     LMPlatformStatus reach(const QList<xcb_window_t>& wanted);
 
 private:
-    LMX11Restacking plan(const QList<xcb_window_t>& wanted, xcb_window_t staying);
+    enum class Means { Asking, Siblings, AsIfUsed, ByDesktop };
+
+    QList<LMX11StackedWindow> pile();
     bool knowsRestacking();
-    void request(const LMX11Restacking& plan, xcb_window_t staying);
-    void requestAsIfUsed(const LMX11Restacking& plan, xcb_window_t staying);
+    void request(const LMX11Restacking& plan, xcb_window_t staying, Means means);
+    void lower(const QList<xcb_window_t>& windows);
+    void raise(const QList<xcb_window_t>& windows, xcb_window_t sibling);
+    void asIfUsed(const QList<xcb_window_t>& used, const std::function<void()>& requests);
     QList<xcb_window_t> timeWindows(QList<xcb_window_t> windows);
+    LMX11Restacking waitForOrder(const QList<xcb_window_t>& wanted, xcb_window_t staying);
     bool waitForManager(qsizetype requests);
 
     LMX11Connection& m_connection;

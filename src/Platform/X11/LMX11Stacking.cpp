@@ -60,7 +60,7 @@ LMX11Restacking around(xcb_window_t staying, const QList<LMX11StackedWindow>& pi
         if (each.layer == layer)
             neighbours.insert(each.window);
     }
-    LMX11Restacking result;
+    LMX11Restacking result{{}, {}, order};
     bool isInFront = true;
     for (const xcb_window_t window : order) {
         if (window == staying)
@@ -107,5 +107,37 @@ LMX11Restacking LMX11PlanRestacking(const QList<LMX11StackedWindow>& pile, const
     }
     if (lowered.contains(staying))
         return around(staying, pile, order, lowered);
-    return {only(order, lowered), {}};
+    return {only(order, lowered), {}, order};
+}
+
+LMX11Restacking LMX11PlanRestackingByDesktop(const QList<LMX11StackedWindow>& pile,
+                                             const Windows& wanted, quint32 currentDesktop) {
+    QList<LMX11StackedWindow> inSight = pile;
+    inSight.removeIf([&](const LMX11StackedWindow& each) {
+        return each.desktop.value_or(currentDesktop) != currentDesktop;
+    });
+    QList<LMX11StackedWindow> framed = pile;
+    framed.removeIf([](const LMX11StackedWindow& each) { return each.isFullscreen; });
+    const Windows order = LMX11PlanRestacking(pile, wanted).order;
+    const auto desktop = [&](xcb_window_t window) {
+        return std::ranges::find(pile, window, &LMX11StackedWindow::window)->desktop;
+    };
+    const auto lowest = std::ranges::find(order.rbegin(), order.rend(), currentDesktop, desktop);
+    if (lowest == order.rend() || !LMX11PlanRestacking(inSight, wanted).isEmpty() ||
+        LMX11PlanRestacking(framed, wanted).isEmpty())
+        return {};
+
+    LMX11Restacking result{{*lowest}, {}, order};
+    bool isKeptLowest = true;
+    for (const xcb_window_t window : order) {
+        const std::optional<quint32> itsDesktop = desktop(window);
+        if (itsDesktop && itsDesktop != currentDesktop)
+            result.raised.prepend(window);
+        result.lowered.append(window);
+        if (window == *lowest)
+            isKeptLowest = false;
+        else if (isKeptLowest && !itsDesktop)
+            result.lowered.append(*lowest);
+    }
+    return result;
 }

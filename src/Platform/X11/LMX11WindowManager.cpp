@@ -187,9 +187,9 @@ void LMX11WindowManager::raiseOnto(xcb_window_t window, xcb_window_t sibling) {
     sendRedirected(event);
 }
 
-void LMX11WindowManager::restackAtBottom(xcb_window_t window) {
+void LMX11WindowManager::restackBelow(xcb_window_t window, xcb_window_t sibling) {
     m_connection.sendToWindowManager(window, m_connection.ewmhAtoms()._NET_RESTACK_WINDOW,
-                                     {userSource, XCB_WINDOW_NONE, XCB_STACK_MODE_BELOW, 0, 0});
+                                     {userSource, sibling, XCB_STACK_MODE_BELOW, 0, 0});
 }
 
 void LMX11WindowManager::activate(xcb_window_t window, xcb_window_t activeWindow) {

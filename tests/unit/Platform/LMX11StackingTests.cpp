@@ -57,3 +57,41 @@ TEST(LMX11Stacking, RequestsBringTheWantedOrderOnEveryDesktop) {
         }
     }
 }
+
+// Under a manager that moves windows among those of their desktop only, 0 being the current one.
+TEST(LMX11Stacking, WindowsOutOfSightComeBetweenThoseOfAllDesktops) {
+    std::mt19937 random(7);
+    int turns = 0;
+    for (int round = 0; round < 3000; ++round) {
+        QList<LMX11StackedWindow> pile{{1, -1, 0}};
+        QList<xcb_window_t> wanted;
+        for (xcb_window_t window = 2; window <= 7; ++window) {
+            const quint32 desktop = quint32(random() % 4);
+            pile.prepend({window, 0, desktop < 3 ? std::optional(desktop) : std::nullopt});
+            wanted.append(window);
+        }
+        std::ranges::shuffle(wanted, random);
+        const LMX11Restacking plan = LMX11PlanRestackingByDesktop(pile, wanted, 0);
+        const auto take = [&](xcb_window_t window) {
+            return pile.takeAt(std::ranges::find(pile, window, &LMX11StackedWindow::window) -
+                               pile.begin());
+        };
+        const auto isNeighbour = [](const LMX11StackedWindow& moved) {
+            return [desktop = moved.desktop.value_or(0)](const LMX11StackedWindow& each) {
+                return each.desktop.value_or(desktop) == desktop;
+            };
+        };
+        for (const xcb_window_t window : plan.raised) {
+            const LMX11StackedWindow moved = take(window);
+            pile.insert(std::ranges::find_if(pile, isNeighbour(moved)), moved);
+        }
+        for (const xcb_window_t window : plan.lowered) {
+            const LMX11StackedWindow moved = take(window);
+            const auto last = std::find_if(pile.rbegin(), pile.rend(), isNeighbour(moved));
+            pile.insert(last.base(), moved);
+        }
+        turns += int(!plan.isEmpty());
+        ASSERT_TRUE(plan.isEmpty() || LMX11PlanRestacking(pile, wanted).isEmpty()) << round;
+    }
+    EXPECT_GT(turns, 300);
+}
