@@ -7,38 +7,28 @@
 #include <gtest/gtest.h>
 
 TEST(PickerGeometry, GridGrowsWithTheWindows) {
-    const struct {
-        int count;
-        unsigned columns, rows;
-    } table[] = {{0, 0, 0}, {1, 1, 1}, {2, 1, 2},  {3, 2, 2},  {4, 2, 2},  {5, 3, 2},
-                 {7, 3, 3}, {9, 3, 3}, {10, 4, 3}, {13, 4, 4}, {40, 7, 6}, {500, 23, 22}};
-    for (const auto& row : table) {
-        const LMPickerGrid grid(row.count, {0, 0, 1000, 900});
-        EXPECT_EQ(grid.columns(), row.columns) << row.count;
-        EXPECT_EQ(grid.rows(), row.rows) << row.count;
-        EXPECT_EQ(grid.columnWidth(), row.columns ? float(1000.0 / row.columns) : 0) << row.count;
-        EXPECT_EQ(grid.rowHeight(), row.rows ? float(900.0 / row.rows) : 0) << row.count;
-        EXPECT_EQ(grid.windowFrames().size(), row.count);
+    const std::tuple<int, unsigned, unsigned> table[] = {
+        {0, 0, 0}, {1, 1, 1}, {2, 1, 2},  {3, 2, 2},  {4, 2, 2},  {5, 3, 2},
+        {7, 3, 3}, {9, 3, 3}, {10, 4, 3}, {13, 4, 4}, {40, 7, 6}, {500, 23, 22}};
+    for (const auto& [count, columns, rows] : table) {
+        const LMPickerGrid grid(count, {0, 0, 1000, 900});
+        EXPECT_EQ(grid.columns(), columns) << count;
+        EXPECT_EQ(grid.rows(), rows) << count;
+        EXPECT_EQ(grid.windowFrames().size(), count);
     }
 }
 
 TEST(PickerGeometry, CellsFillTheRowsFromTheBottom) {
-    const struct {
-        int count, index;
-        QRectF expected;
-    } table[] = {
-        {2, 0, {30, 55, 1160, 440}}, // One above the other.
-        {2, 1, {30, 505, 1160, 440}},
-        {5, 0, {230, 55, 360, 440}}, // Two, centred under a full row
-                                     // of three.
-        {5, 2, {30, 505, 360, 440}},
-        {5, 4, {830, 505, 360, 440}},
+    const std::tuple<int, int, QRectF> table[] = {
+        {2, 0, {30, 55, 1160, 440}},                               // One above the other.
+        {2, 1, {30, 505, 1160, 440}}, {5, 0, {230, 55, 360, 440}}, // Two, centred under three.
+        {5, 2, {30, 505, 360, 440}},  {5, 4, {830, 505, 360, 440}},
         {9, 2, {830, 55, 360, 290}}, // The first three are the bottom row.
         {9, 8, {830, 655, 360, 290}},
     };
-    for (const auto& row : table) {
-        const LMPickerGrid grid(row.count, {10, 50, 1200, 900});
-        EXPECT_EQ(grid.windowFrames()[row.index], row.expected) << row.count << ' ' << row.index;
+    for (const auto& [count, index, expected] : table) {
+        const LMPickerGrid grid(count, {10, 50, 1200, 900});
+        EXPECT_EQ(grid.windowFrames()[index], expected) << count << ' ' << index;
     }
     // Places are reckoned in single precision.
     const QList<QRectF> sevenths = LMPickerGrid(40, {0.1, 0, 1000, 900}).windowFrames();
@@ -48,39 +38,31 @@ TEST(PickerGeometry, CellsFillTheRowsFromTheBottom) {
 }
 
 TEST(PickerGeometry, UsableFrameIsWhatPanelsLeave) {
-    const struct {
-        QRectF display, visible;
-        double scale;
-        QRectF expected;
-    } table[] = {
+    const std::tuple<QRectF, QRectF, double, QRectF> table[] = {
         {{0, 0, 1920, 1080}, {0, 30, 1920, 1000}, 1, {0, 50, 1920, 1000}}, // Bars above and below.
         {{0, 0, 1920, 1080}, {60, 0, 1860, 1080}, 2, {30, 0, 930, 540}},
         {{-100, 40, 800, 600}, {-90, 50, 700, 500}, 1, {10, 90, 700, 500}},
     };
-    for (const auto& row : table) {
+    for (const auto& [display, visible, scale, expected] : table) {
         LMScreen screen;
-        screen.displayBounds = row.display;
-        screen.visibleFrame = row.visible;
-        EXPECT_EQ(LMUsableFrame(screen, row.scale), row.expected);
+        screen.displayBounds = display;
+        screen.visibleFrame = visible;
+        EXPECT_EQ(LMUsableFrame(screen, scale), expected);
     }
     EXPECT_EQ(LMCoveringSize({1366, 768}, 1.5), QSize(911, 512));
 }
 
 TEST(PickerGeometry, ScreenshotsSitOnTheirMargin) {
     const QRectF area(8, 38, 300, 220);
-    const struct {
-        const char* why;
-        QSizeF image;
-        QRectF expected;
-    } table[] = {
+    const std::tuple<const char*, QSizeF, QRectF> table[] = {
         {"a small one keeps its size", {100, 50}, {108, 58, 100, 50}},
         {"too wide", {600, 200}, {8, 58, 300, 100}},
         {"too high", {300, 400}, {83, 58, 150, 200}},
         {"rounded up, from a scale in single precision", {700, 100}, {7, 58, 301, 43}},
         {"odd room is rounded down", {101, 51}, {107, 58, 101, 51}},
     };
-    for (const auto& row : table)
-        EXPECT_EQ(LMImageAdditions(row.image).frameForRect(area), row.expected) << row.why;
+    for (const auto& [why, image, expected] : table)
+        EXPECT_EQ(LMImageAdditions(image).frameForRect(area), expected) << why;
     for (const QRectF& narrow : {QRectF(0, 0, 300, 20), QRectF(0, 0, -5, 100), QRectF(0, 0, 50, 5)})
         EXPECT_TRUE(LMImageAdditions({10, 10}).frameForRect(narrow).isEmpty());
 }
