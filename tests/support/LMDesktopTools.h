@@ -12,9 +12,9 @@
 #include <functional>
 #include <stdexcept>
 
-/// Handles events until the condition holds; false when it does not within five seconds.
+/// Handles events until the condition holds; false when it does not within ten seconds.
 inline bool LMWaitUntil(const std::function<bool()>& condition) {
-    const QDeadlineTimer deadline(5000);
+    const QDeadlineTimer deadline(10'000);
     QTimer wakeUp; // X events are handed on when the event loop is about to wait for some.
     wakeUp.start(5);
     while (!condition()) {

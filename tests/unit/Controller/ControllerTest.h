@@ -4,10 +4,10 @@
 #include "Controller/LMApplicationDelegate.h"
 #include "Controller/LMUserInterface.h"
 #include "Model/LMStoredWindowsStore.h"
+#include "support/LMDesktopTools.h"
 #include "unit/DesktopTest.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 
 #include <functional>
 
@@ -70,13 +70,7 @@ protected:
         desktop.focus(draft);
     }
 
-    /// Runs the event loop until the condition holds; false after a deadline.
-    static bool wait(const std::function<bool()>& condition) {
-        QElapsedTimer timer;
-        for (timer.start(); !condition() && !timer.hasExpired(10'000);)
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
-        return condition();
-    }
+    static constexpr auto wait = &LMWaitUntil;
 
     LMCommandResult perform(const char* code, const QVariantMap& arguments = {}) {
         const char name[5] = {code[0], code[1], code[2], code[3], 0};
