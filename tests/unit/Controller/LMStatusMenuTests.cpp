@@ -18,9 +18,8 @@ protected:
                 tags += QString::number(item.tag) + u' ';
         return tags.trimmed();
     }
-    QString title(int tag) const { return item(tag).title; }
-    const LMMenuItem& item(int tag) const {
-        return *std::ranges::find(menu.items(), tag, &LMMenuItem::tag);
+    QString title(int tag) const {
+        return std::ranges::find(menu.items(), tag, &LMMenuItem::tag)->title;
     }
 
     LMStatusMenu& menu = delegate.statusItemMenu();
@@ -28,9 +27,7 @@ protected:
 
 TEST_F(StatusMenuTest, EnablesWhatCanBeDoneNow) {
     EXPECT_EQ(enabled(), u"4 5 7 9 10 11"_s) << "nothing is stored yet";
-    EXPECT_EQ(title(2) + u'|' + title(3) + u'|' + title(4),
-              u"Restore Windows for Editor|Editor|Store All Windows for Editor"_s);
-    EXPECT_EQ(item(3).representedObject, u"org.editor"_s);
+    EXPECT_EQ(title(2), u"Restore Windows for Editor"_s);
     ASSERT_TRUE(perform("SApp").isDone);
     EXPECT_EQ(enabled(), u"4 2 5 6 1 7 9 10 11"_s);
     desktop.focus(LMElement());
@@ -52,8 +49,7 @@ TEST_F(StatusMenuTest, ShowsTheFileManagerWhereNoApplicationWasEverActive) {
     desktop.removeApplication(u"org.editor"_s);
     desktop.removeApplication(u"org.browser"_s);
     EXPECT_EQ(enabled(), u"1 9 10 11"_s);
-    EXPECT_EQ(title(2) + u'|' + title(3) + u'|' + title(4),
-              u"Store All Windows for Finder|Finder|Store All Windows for Finder"_s);
+    EXPECT_EQ(title(2), u"Store All Windows for Finder"_s);
 }
 
 TEST_F(StatusMenuTest, UpdatingLetsOtherLiveRecordsLive) {
