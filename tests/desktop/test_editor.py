@@ -10,6 +10,7 @@ import unittest
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent.parent.parent / "tools"))
+from rig.accessibility import ENVIRONMENT, shown_objects, start_registry  # noqa: E402
 from rig.desktop import Desktop  # noqa: E402
 from rig.displays import keyboard_is_free  # noqa: E402
 from rig.probe import Frame  # noqa: E402
@@ -26,7 +27,9 @@ class Editor(unittest.TestCase):
         self.desktop = Desktop(os.environ.get("ROOK_TEST_MANAGER", "openbox"), "two")
         self.addCleanup(self.desktop.close)
         self.probe = self.desktop.probe
-        self.rook = Resident(self.desktop.session, headless=False, settings={})
+        start_registry(self.desktop.session)
+        self.rook = Resident(self.desktop.session, start=False, headless=False, settings={})
+        self.rook.start(environment=ENVIRONMENT)
         open_windows(self.desktop, WINDOWS)
         self.rook.do("store-all")
         self.rook.do("show")
@@ -56,10 +59,12 @@ class Editor(unittest.TestCase):
         return wait_until(active, f"the window {title}", 20.0)
 
     def drag_first_window_to_the_end(self) -> None:
-        x, y, *_ = self.probe.frame(self.editor)
-        self.probe.tool("xdotool", "mousemove", str(x + 500), str(y + 98), "mousedown", "1")
+        (x, y, width, height), = (found["place"] for found in shown_objects(self.desktop.session, "rook")
+                                  if found["name"] == "first shell")
+        x, y = x + width // 2, y + height // 2
+        self.probe.tool("xdotool", "mousemove", str(x), str(y), "mousedown", "1")
         for step in range(1, 7):
-            self.probe.tool("xdotool", "mousemove", str(x + 500), str(y + 98 + 25 * step))
+            self.probe.tool("xdotool", "mousemove", str(x), str(y + 25 * step))
         self.probe.tool("xdotool", "mouseup", "1")
 
     # Looking

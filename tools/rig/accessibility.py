@@ -19,7 +19,8 @@ def start_registry(session: Any) -> None:
 
 
 def shown_objects(session: Any, application: str) -> list[dict[str, Any]]:
-    """What the application shows: name, role, states and window of each object, windows first."""
+    """What the application shows, windows first: of each object name, role, states, window, and place on the screen
+    (pixels: x, y, width, height)."""
     result = subprocess.run([SYSTEM_PYTHON, __file__, application], env=session.environment, text=True,
                             capture_output=True, timeout=60.0)
     if result.returncode != 0:
@@ -31,7 +32,9 @@ def _walk(accessible: Any, window: str) -> Iterator[dict[str, Any]]:
     states = [state.value_nick for state in accessible.get_state_set().get_states()]
     if "showing" not in states:
         return
-    yield {"name": accessible.get_name() or "", "role": accessible.get_role_name(), "states": states, "window": window}
+    place = accessible.get_extents(0)  # ATSPI_COORD_TYPE_SCREEN
+    yield {"name": accessible.get_name() or "", "role": accessible.get_role_name(), "states": states, "window": window,
+           "place": (place.x, place.y, place.width, place.height)}
     for index in range(accessible.get_child_count()):
         child = accessible.get_child_at_index(index)
         if child is not None:
