@@ -17,6 +17,7 @@ from documents import ROOT, Block, Document, Place
 from written_documents import Problem
 
 sys.path.insert(0, str(ROOT / "tools"))
+from rig.accessibility import SYSTEM_PYTHON  # noqa: E402
 from rig.desktop import Desktop  # noqa: E402
 from rig.displays import keyboard_is_free  # noqa: E402
 from rig.probe import Frame  # noqa: E402
@@ -53,6 +54,7 @@ class Sandbox:
             rook.parent.mkdir()
             rook.write_text(f"#!/bin/sh\numask {umask}\nexec '{binary}' \"$@\"\n")
             rook.chmod(0o755)
+            (rook.parent / "python3").symlink_to(SYSTEM_PYTHON)
             self.environment = {**self.desktop.environment, MARK: str(self.desktop.work.path),
                                 "PATH": f"{rook.parent}:{os.environ['PATH']}"}
             self._teach_the_bus(rook)
