@@ -25,7 +25,7 @@ void LMX11ViewGuard::restore() {
     for (int attempt = 0; attempt < 2 && !isBack(); ++attempt) {
         if (m_now.currentDesktop != m_view.currentDesktop)
             m_windowManager.showDesktop(m_view.currentDesktop);
-        if (m_now.activeWindow != m_view.activeWindow)
+        if (!isFocusBack())
             m_windowManager.activate(m_view.activeWindow, m_now.activeWindow);
         const auto deadline = std::chrono::steady_clock::now() + answerTime;
         m_windowManager.waitUntilCaughtUp(deadline);
@@ -39,8 +39,10 @@ void LMX11ViewGuard::restore() {
 
 bool LMX11ViewGuard::isBack() {
     m_now = LMX11ReadManagerLists(m_connection);
-    if (m_now.currentDesktop != m_view.currentDesktop)
-        return false;
+    return m_now.currentDesktop == m_view.currentDesktop && isFocusBack();
+}
+
+bool LMX11ViewGuard::isFocusBack() {
     return m_now.activeWindow == m_view.activeWindow || m_view.activeWindow == XCB_WINDOW_NONE ||
            !isInSight(m_view.activeWindow);
 }

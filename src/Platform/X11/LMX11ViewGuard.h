@@ -24,6 +24,7 @@ public:
 
 private:
     bool isBack();
+    bool isFocusBack();
     bool isInSight(xcb_window_t window);
 
     LMX11Connection& m_connection;
