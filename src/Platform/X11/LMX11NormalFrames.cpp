@@ -12,15 +12,14 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// Managers change states and frames in either order, and windows that are
-/// dragged change all the time.
+/// Managers change states and frames in either order, and windows that are dragged change all the
+/// time.
 constexpr auto restTime = 150ms;
 
 /// More than any manager takes to maximise a window; drags take hundreds.
 constexpr qsizetype mostPassings = 16;
 
-/// More than marco's and mutter's frames have for the pointer to take hold of,
-/// pixels.
+/// More than marco's and mutter's frames have for the pointer to take hold of, pixels.
 constexpr int invisibleBorder = 32;
 
 bool fills(const LMX11Window& window) {
@@ -39,7 +38,8 @@ LMX11NormalFrames::LMX11NormalFrames(LMX11Connection& connection, LMX11Applicati
     : m_connection(connection), m_index(index), m_reader(connection),
       m_observer(connection.addEventObserver([this](const auto& event) { observe(event); })),
       m_filter(connection.addEventFilter([this](const auto&) {
-          if (m_areWindowsNew || !m_changed.isEmpty())
+          // Others' news must not put it off: titles may change all the time.
+          if (std::exchange(m_hasNews, false))
               m_timer.start();
       })) {
     m_timer.setSingleShot(true);
@@ -61,15 +61,21 @@ void LMX11NormalFrames::observe(const xcb_generic_event_t& event) {
     } else if (type == XCB_PROPERTY_NOTIFY) {
         const auto& changed = reinterpret_cast<const xcb_property_notify_event_t&>(event);
         if (changed.atom == m_connection.ewmhAtoms()._NET_WM_STATE)
-            m_changed.insert(changed.window);
-        m_areWindowsNew |= changed.atom == m_connection.ewmhAtoms()._NET_CLIENT_LIST;
+            noteChange(changed.window);
+        if (changed.atom == m_connection.ewmhAtoms()._NET_CLIENT_LIST)
+            m_areWindowsNew = m_hasNews = true;
     }
+}
+
+void LMX11NormalFrames::noteChange(xcb_window_t window) {
+    m_changed.insert(window);
+    m_hasNews = true;
 }
 
 void LMX11NormalFrames::observeConfigure(const xcb_configure_notify_event_t& event) {
     if (event.window == m_connection.ownWindow())
         return;
-    m_changed.insert(event.window);
+    noteChange(event.window);
     const auto record = m_records.find(event.window);
     if (record == m_records.end())
         return;

@@ -48,6 +48,7 @@ private:
     };
 
     void observe(const xcb_generic_event_t& event);
+    void noteChange(xcb_window_t window);
     void observeConfigure(const xcb_configure_notify_event_t& event);
     void readChangedWindows();
     static bool hasMoved(const Record& record, const LMX11Geometry& now);
@@ -59,6 +60,7 @@ private:
     QSet<xcb_window_t> m_watched;
     QSet<xcb_window_t> m_changed;
     bool m_areWindowsNew = true;
+    bool m_hasNews = false; ///< Since the timer was started.
     QTimer m_timer;
     LMX11Connection::Subscription m_observer;
     LMX11Connection::Subscription m_filter;
