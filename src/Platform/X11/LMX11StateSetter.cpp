@@ -86,11 +86,11 @@ void LMX11StateSetter::send(const Task& task, const LMWindowState& is, Means mea
             m_windowManager.changeState(window, direction, state);
     };
     using S = LMWindowState;
+    const auto desktop = desktopOf(wanted);
     changeWhatDiffers(Change::Remove, &S::isShaded, atoms._NET_WM_STATE_SHADED);
     for (const Change direction : {Change::Remove, Change::Add}) {
-        if (direction == Change::Add &&
-            (is.desktop != wanted.desktop || is.isOnAllDesktops != wanted.isOnAllDesktops))
-            m_windowManager.sendToDesktop(window, desktopOf(wanted).value_or(0));
+        if (direction == Change::Add && desktop && desktopOf(is) != desktop)
+            m_windowManager.sendToDesktop(window, *desktop);
         changeWhatDiffers(direction, &S::isKeptAbove, atoms._NET_WM_STATE_ABOVE);
         changeWhatDiffers(direction, &S::isKeptBelow, atoms._NET_WM_STATE_BELOW);
         const bool changesWidth = differs(direction, &S::isMaximizedHorizontally);
