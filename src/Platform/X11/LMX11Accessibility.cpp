@@ -109,6 +109,11 @@ LMX11Accessibility::readWindow(const LMElement& element) {
                                : LMPlatformResult<Known>::failure(absence());
 }
 
+void LMX11Accessibility::forget(const LMElement& window) {
+    m_known.remove(window.identifier);
+    m_done.remove(window.identifier);
+}
+
 LMPlatformResult<QList<LMElement>> LMX11Accessibility::elements(const LMElement& element,
                                                                 QLatin1String attribute) {
     using List = LMPlatformResult<QList<LMElement>>;

@@ -55,7 +55,7 @@ public:
     /// From memory within a reading scope.
     LMPlatformResult<Known> readWindow(const LMElement& element);
     /// The window has been changed by somebody else.
-    void forget(const LMElement& window) { m_known.remove(window.identifier); }
+    void forget(const LMElement& window);
 
 private:
     LMPlatformResult<LMAttributeValue> applicationValue(const LMElement& element,
