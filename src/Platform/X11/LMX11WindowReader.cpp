@@ -117,8 +117,8 @@ void LMX11WindowReader::measureDecorations(const Windows& windows) {
 
 /// Those that stand elsewhere for the moment. To draw how a window turns into its icon or back,
 /// openbox moves the frame itself, small as a title bar: with the window already hidden on the way
-/// there, with the window already shown on the way back, also when that is
-/// sent to another virtual desktop meanwhile.
+/// there, with the window already shown on the way back, also when it is sent to another virtual
+/// desktop meanwhile.
 LMX11WindowReader::Windows LMX11WindowReader::animated(Windows windows) {
     windows.removeIf([this](const LMX11Window* window) {
         return !window->exists || window->states.isShaded ||
