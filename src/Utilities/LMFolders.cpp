@@ -6,6 +6,7 @@
 #include "Utilities/LMLogger.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QUuid>
 
@@ -32,6 +33,17 @@ QString fitForFileName(const QString& version) {
             character = u'-';
     }
     return name;
+}
+
+/// Someone may have made the folder by hand, and files that were copied into it are open to all.
+void closeToOthers(const QString& path) {
+    using Device = QFileDevice;
+    constexpr auto Owner = Device::ReadOwner | Device::WriteOwner | Device::ExeOwner;
+    constexpr auto Others = Device::ReadGroup | Device::WriteGroup | Device::ExeGroup |
+                            Device::ReadOther | Device::WriteOther | Device::ExeOther;
+    const QFileDevice::Permissions permissions = QFile::permissions(path);
+    if (permissions & Others)
+        QFile::setPermissions(path, permissions & Owner);
 }
 
 } // namespace
@@ -86,8 +98,10 @@ QString LMFolders::subdirectory(const QString& name) const {
 QString LMFolders::applicationSupportDirectoryURL() const {
     const PathResult found = findDirectory(LMSearchPathDirectory::ApplicationSupport,
                                            LMSearchPathDomain::User, applicationFolder, true);
-    if (found)
+    if (found) {
+        closeToOthers(*found);
         return *found;
+    }
     m_logger->error(QStringLiteral("Unable to find or create application support directory: %@"),
                     {found.error().description});
     return {};

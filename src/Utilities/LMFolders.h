@@ -43,7 +43,7 @@ public:
                                                       const QString& appendPathComponent,
                                                       bool createIfNotFound) const;
 
-    /// Logs a failure; the other folders fail silently.
+    /// Logs a failure; the other folders fail silently. Takes from others the right to enter.
     QString applicationSupportDirectoryURL() const;
     QString screenshotsDirectoryURL() const;
     QString backupsDirectoryURL() const;

@@ -22,7 +22,10 @@ TEST_F(LMFoldersTest, MakesItsFoldersForTheOwnerOnly) {
         const auto status = std::filesystem::status(path(QLatin1String(name)).toStdString());
         EXPECT_EQ(status.permissions(), perms::owner_all) << name;
     }
+    const std::filesystem::path opened = base.toStdString();
+    std::filesystem::permissions(opened, perms::all);
     EXPECT_FALSE(QFileInfo::exists(folders.storedWindowsURL()));
+    EXPECT_EQ(std::filesystem::status(opened).permissions(), perms::owner_all);
     EXPECT_NE(folders.uniqueScreenshotURL(), folders.uniqueScreenshotURL());
     EXPECT_TRUE(messages.isEmpty());
     EXPECT_TRUE(LMFolders(QString(), logger).storedWindowsURL().isNull());
