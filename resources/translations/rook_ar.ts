@@ -381,7 +381,7 @@ Run “rook --help” for more information.</source>
     </message>
     <message>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
-        <source>%@ workspaces, %@ applications, %@ windows</source>
+        <source>workspaces: %@, applications: %@, windows: %@</source>
         <translation>التخطيطات: %@، التطبيقات: %@، النوافذ: %@</translation>
     </message>
     <message>

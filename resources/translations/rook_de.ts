@@ -381,7 +381,7 @@ Mehr erfahren Sie mit „rook --help“.</translation>
     </message>
     <message>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
-        <source>%@ workspaces, %@ applications, %@ windows</source>
+        <source>workspaces: %@, applications: %@, windows: %@</source>
         <translation>Anordnungen: %@, Programme: %@, Fenster: %@</translation>
     </message>
     <message>

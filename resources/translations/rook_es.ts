@@ -381,7 +381,7 @@ Ejecute «rook --help» para obtener más información.</translation>
     </message>
     <message>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
-        <source>%@ workspaces, %@ applications, %@ windows</source>
+        <source>workspaces: %@, applications: %@, windows: %@</source>
         <translation>Disposiciones: %@, aplicaciones: %@, ventanas: %@</translation>
     </message>
     <message>

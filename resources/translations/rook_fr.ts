@@ -381,7 +381,7 @@ Pour en savoir plus, exécutez « rook --help ».</translation>
     </message>
     <message>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
-        <source>%@ workspaces, %@ applications, %@ windows</source>
+        <source>workspaces: %@, applications: %@, windows: %@</source>
         <translation>Dispositions : %@, applications : %@, fenêtres : %@</translation>
     </message>
     <message>

@@ -109,7 +109,7 @@ QString statusText(const QJsonObject& report) {
     const QJsonValue current = report[u"currentWorkspace"];
     add(LMLocalized("Current workspace"), current.isString() ? cell(current) : LMLocalized("none"));
     add(LMLocalized("Stored"),
-        LMFormat(LMLocalized("%@ workspaces, %@ applications, %@ windows"),
+        LMFormat(LMLocalized("workspaces: %@, applications: %@, windows: %@"),
                  {number(counts[u"workspaces"]), number(counts[u"applications"]),
                   number(counts[u"storedWindows"])}));
     for (const auto& hotKey : report[u"hotKeys"].toArray())
