@@ -57,6 +57,12 @@ protected:
         return result.join(u", "_s);
     }
 
+    /// Counts the steps it is told.
+    struct : LMProgress {
+        void setMaxValue(double value) override { maxValue = value; }
+        void increment(const LMWorkspace*) override { ++steps; }
+        double maxValue = 0, steps = 0;
+    } progress;
     QList<LMElement> elements; ///< The windows of "app".
     const QRectF left{0, 0, 300, 200};
     const QRectF right{400, 0, 350, 250};

@@ -22,12 +22,6 @@ protected:
             result.append(application->bundleIdentifier());
         return result;
     }
-    /// Counts the steps it is told.
-    struct : LMProgress {
-        void setMaxValue(double value) override { maxValue = value; }
-        void increment(const LMWorkspace*) override { ++steps; }
-        double maxValue = 0, steps = 0;
-    } progress;
 };
 
 TEST_F(WorkspaceTest, StoresEveryApplication) {
