@@ -51,13 +51,13 @@ LMPlatformStatus LMX11StackSetter::reach(const QList<xcb_window_t>& wanted) {
     LMX11ViewGuard view(m_connection, m_windowManager);
     const bool canRestack = knowsRestacking();
     const xcb_window_t staying = canRestack ? xcb_window_t(XCB_WINDOW_NONE) : view.activeWindow();
-    const QList<Means> allMeans = canRestack
-                                      ? QList{Means::Asking, Means::Siblings}
-                                      : QList{Means::Asking, Means::AsIfUsed, Means::ByDesktop};
+    const QList<Means> allMeans =
+        canRestack ? QList{Means::Asking, Means::Restacking, Means::RestackingAll}
+                   : QList{Means::Asking, Means::AsIfUsed, Means::AllByDesktop};
     LMX11Restacking next = LMX11PlanRestacking(pile(), wanted, staying);
     bool isAnswered = false;
     for (const Means means : allMeans) {
-        if (means == Means::ByDesktop)
+        if (means == allMeans.last())
             next = LMX11PlanRestackingByDesktop(pile(), wanted, view.currentDesktop());
         if (next.isEmpty())
             break;
@@ -111,14 +111,18 @@ void LMX11StackSetter::request(const LMX11Restacking& plan, xcb_window_t staying
         lower(plan.lowered);
         raise(plan.raised, staying);
         break;
-    case Means::Siblings:
+    case Means::Restacking:
+        for (const xcb_window_t window : plan.lowered)
+            m_windowManager.restackBelow(window, XCB_WINDOW_NONE);
+        break;
+    case Means::RestackingAll:
         for (qsizetype index = 1; index < plan.order.size(); ++index)
             m_windowManager.restackBelow(plan.order[index], plan.order[index - 1]);
         break;
     case Means::AsIfUsed:
         asIfUsed(plan.lowered + plan.raised, [&] { request(plan, staying, Means::Asking); });
         break;
-    case Means::ByDesktop:
+    case Means::AllByDesktop:
         asIfUsed(plan.order, [&] {
             raise(plan.raised, staying);
             lower(plan.lowered);

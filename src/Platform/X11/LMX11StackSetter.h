@@ -21,18 +21,20 @@ class LMX11WindowManager;
 ///     raise (ConfigureWindow)     yes          with focus   own (1)     refuses     own (1)
 ///       onto a sibling            to the top   yes          own, top    yes         yes
 ///     _NET_RESTACK_WINDOW         yes          unknown      unknown     attention   yes
-///       below a sibling           to the end   -            -           yes         yes (2)
+///       below a sibling           to the end   -            -           yes (2)     yes (3)
 ///
 /// (1) Windows of the active application. Others are to have been used later than the active
 /// window, as their _NET_WM_USER_TIME says. Desktop: a window of all desktops goes to the bottom,
-/// or to the top, of those of the current one. (2) Leaves a window where it is that is behind its
-/// sibling already, however far.
+/// or to the top, of those of the current one. (2) One window; many in turn, fullscreen ones among
+/// them, end in another order. (3) Leaves a window where it is that is behind its sibling already,
+/// however far.
 ///
-/// Hence: windows are lowered. Where that does not help, each is put behind the one in front of it
-/// by _NET_RESTACK_WINDOW if it is known, else lowered as if it had just been used; should desktops
-/// out of sight be out of order then, all are, see LMX11PlanRestackingByDesktop. What is in order
-/// already is left alone. Where a manager knows no _NET_RESTACK_WINDOW, the active window is not
-/// lowered before that, as it may lose the focus: those in front of it are raised onto it.
+/// Hence: windows are lowered; where that does not help, by _NET_RESTACK_WINDOW if it is known,
+/// else as if they had just been used. Should only desktops out of sight be out of order then, each
+/// window is put behind the one in front of it, or all as LMX11PlanRestackingByDesktop says. What
+/// is in order already is left alone. Where a manager knows no _NET_RESTACK_WINDOW, the active
+/// window is not lowered before that, as it may lose the focus: those in front of it are raised
+/// onto it.
 class LMX11StackSetter {
 public:
     /// All must outlive it.
@@ -46,7 +48,7 @@ public:
     LMPlatformStatus reach(const QList<xcb_window_t>& wanted);
 
 private:
-    enum class Means { Asking, Siblings, AsIfUsed, ByDesktop };
+    enum class Means { Asking, Restacking, RestackingAll, AsIfUsed, AllByDesktop };
 
     QList<LMX11StackedWindow> pile();
     bool knowsRestacking();

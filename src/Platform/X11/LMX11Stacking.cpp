@@ -122,22 +122,24 @@ LMX11Restacking LMX11PlanRestackingByDesktop(const QList<LMX11StackedWindow>& pi
     const auto desktop = [&](xcb_window_t window) {
         return std::ranges::find(pile, window, &LMX11StackedWindow::window)->desktop;
     };
-    const auto lowest = std::ranges::find(order.rbegin(), order.rend(), currentDesktop, desktop);
-    if (lowest == order.rend() || !LMX11PlanRestacking(inSight, wanted).isEmpty() ||
+    if (!LMX11PlanRestacking(inSight, wanted).isEmpty() ||
         LMX11PlanRestacking(framed, wanted).isEmpty())
         return {};
 
-    LMX11Restacking result{{*lowest}, {}, order};
-    bool isKeptLowest = true;
+    LMX11Restacking result{{}, {}, order};
+    const auto found = std::ranges::find(order.rbegin(), order.rend(), currentDesktop, desktop);
+    xcb_window_t lowest = found == order.rend() ? xcb_window_t(XCB_WINDOW_NONE) : *found;
+    if (lowest != XCB_WINDOW_NONE)
+        result.lowered.append(lowest);
     for (const xcb_window_t window : order) {
         const std::optional<quint32> itsDesktop = desktop(window);
         if (itsDesktop && itsDesktop != currentDesktop)
             result.raised.prepend(window);
         result.lowered.append(window);
-        if (window == *lowest)
-            isKeptLowest = false;
-        else if (isKeptLowest && !itsDesktop)
-            result.lowered.append(*lowest);
+        if (window == lowest)
+            lowest = XCB_WINDOW_NONE;
+        else if (lowest != XCB_WINDOW_NONE && !itsDesktop)
+            result.lowered.append(lowest);
     }
     return result;
 }

@@ -43,8 +43,7 @@ LMX11Restacking LMX11PlanRestacking(const QList<LMX11StackedWindow>& pile,
 /// there is not taken to heart.
 ///
 /// A window of all desktops gets as low as the lowest one of the current desktop. Hence one of
-/// these is kept below everything as long as its own turn has not come; without any, nothing can
-/// be done.
+/// these, if there is any, is kept below everything as long as its own turn has not come.
 LMX11Restacking LMX11PlanRestackingByDesktop(const QList<LMX11StackedWindow>& pile,
                                              const QList<xcb_window_t>& wanted,
                                              quint32 currentDesktop);

@@ -48,7 +48,8 @@ public:
     void lower(xcb_window_t window);
     /// Onto another of its layer, as if the client itself asked for it (ICCCM 4.1.5).
     void raiseOnto(xcb_window_t window, xcb_window_t sibling);
-    /// Behind another in the user's name, where the manager supports _NET_RESTACK_WINDOW.
+    /// Behind another, or without one to the bottom of its layer, in the user's name, where the
+    /// manager supports _NET_RESTACK_WINDOW.
     void restackBelow(xcb_window_t window, xcb_window_t sibling);
     /// Asks for the focus in the user's name.
     void activate(xcb_window_t window, xcb_window_t activeWindow);
