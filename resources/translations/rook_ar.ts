@@ -321,6 +321,12 @@ Run “rook --help” for more information.</source>
     </message>
     <message>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <location filename="../../src/UserInterface/LMShortcutRecorder.cpp"/>
+        <source>%@: %@</source>
+        <translation>%@: %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
         <source>Version</source>
         <translation>الإصدار</translation>
     </message>
@@ -1678,7 +1684,7 @@ Please visit the Rook web site and download the latest version of Rook.</source>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
         <source>%@ × %@ at %@, %@</source>
-        <translation>%@ × %@ عند %@، %@</translation>
+        <translation>%@ × %@ عند ⁦%@⁩، ⁦%@⁩</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/Editing/LMStoredWindowsModel.cpp"/>
@@ -2010,11 +2016,6 @@ Until that changes, windows are neither stored nor restored.</source>
         <location filename="../../src/UserInterface/LMShortcutRecorder.cpp"/>
         <source>Type Shortcut…</source>
         <translation>اضغط الاختصار…</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMShortcutRecorder.cpp"/>
-        <source>%@: %@</source>
-        <translation>%@: %@</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMStoredWindowsEditorActions.cpp"/>

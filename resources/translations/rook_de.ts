@@ -321,6 +321,12 @@ Mehr erfahren Sie mit „rook --help“.</translation>
     </message>
     <message>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <location filename="../../src/UserInterface/LMShortcutRecorder.cpp"/>
+        <source>%@: %@</source>
+        <translation>%@: %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
         <source>Version</source>
         <translation>Version</translation>
     </message>
@@ -2010,11 +2016,6 @@ Bis sich das ändert, werden Fenster weder gespeichert noch wiederhergestellt.</
         <location filename="../../src/UserInterface/LMShortcutRecorder.cpp"/>
         <source>Type Shortcut…</source>
         <translation>Kürzel drücken…</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMShortcutRecorder.cpp"/>
-        <source>%@: %@</source>
-        <translation>%@: %@</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMStoredWindowsEditorActions.cpp"/>

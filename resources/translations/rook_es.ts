@@ -321,6 +321,12 @@ Ejecute «rook --help» para obtener más información.</translation>
     </message>
     <message>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <location filename="../../src/UserInterface/LMShortcutRecorder.cpp"/>
+        <source>%@: %@</source>
+        <translation>%@: %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
         <source>Version</source>
         <translation>Versión</translation>
     </message>
@@ -2010,11 +2016,6 @@ Mientras eso no cambie, las ventanas no se guardan ni se restauran.</translation
         <location filename="../../src/UserInterface/LMShortcutRecorder.cpp"/>
         <source>Type Shortcut…</source>
         <translation>Pulse el atajo…</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMShortcutRecorder.cpp"/>
-        <source>%@: %@</source>
-        <translation>%@: %@</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMStoredWindowsEditorActions.cpp"/>

@@ -321,6 +321,12 @@ Pour en savoir plus, exécutez « rook --help ».</translation>
     </message>
     <message>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <location filename="../../src/UserInterface/LMShortcutRecorder.cpp"/>
+        <source>%@: %@</source>
+        <translation>%@ : %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
         <source>Version</source>
         <translation>Version</translation>
     </message>
@@ -2010,11 +2016,6 @@ Tant que cela ne change pas, les fenêtres ne sont ni mémorisées ni restaurée
         <location filename="../../src/UserInterface/LMShortcutRecorder.cpp"/>
         <source>Type Shortcut…</source>
         <translation>Tapez le raccourci…</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMShortcutRecorder.cpp"/>
-        <source>%@: %@</source>
-        <translation>%@ : %@</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMStoredWindowsEditorActions.cpp"/>

@@ -321,6 +321,12 @@ Run “rook --help” for more information.</source>
     </message>
     <message>
         <location filename="../../src/CommandLine/LMTables.cpp"/>
+        <location filename="../../src/UserInterface/LMShortcutRecorder.cpp"/>
+        <source>%@: %@</source>
+        <translation>%@: %@</translation>
+    </message>
+    <message>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
         <source>Version</source>
         <translation>バージョン</translation>
     </message>
@@ -2010,11 +2016,6 @@ Until that changes, windows are neither stored nor restored.</source>
         <location filename="../../src/UserInterface/LMShortcutRecorder.cpp"/>
         <source>Type Shortcut…</source>
         <translation>キーを押してください…</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMShortcutRecorder.cpp"/>
-        <source>%@: %@</source>
-        <translation>%@: %@</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMStoredWindowsEditorActions.cpp"/>

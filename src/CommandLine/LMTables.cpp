@@ -82,7 +82,8 @@ QString hotKeyText(const QJsonValue& hotKey) {
     const QString text =
         LMFormat(QStringLiteral("%@ %@"), {cell(hotKey[u"key"]), cell(hotKey[u"shortcut"])});
     const QString reason = hotKey[u"reason"].toString();
-    return reason.isEmpty() ? text : text + QStringLiteral(": ") + LMTables::printable(reason);
+    return reason.isEmpty() ? text
+                            : LMFormat(LMLocalized("%@: %@"), {text, LMTables::printable(reason)});
 }
 
 QString statusText(const QJsonObject& report) {
