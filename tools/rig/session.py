@@ -55,9 +55,17 @@ XFWM4 = """\
   <property name="use_compositing" type="bool" value="true"/>
 </property></channel>
 """
+# Texts, and with them title bars and rows, are as high on every machine.
+FONTS = """\
+<fontconfig>
+  <alias><family>sans-serif</family><prefer><family>DejaVu Sans</family></prefer></alias>
+  <alias><family>monospace</family><prefer><family>DejaVu Sans Mono</family></prefer></alias>
+</fontconfig>
+"""
 # Rook runs from its build folder; nobody is there to answer whether it shall be added to the menu.
 ROOK = "[General]\nmoveToApplicationsFolderAlertSuppress=true\n"
 SETTINGS = {
+    "fontconfig/fonts.conf": FONTS,
     "Rook/settings.ini": ROOK,
     "glib-2.0/settings/keyfile": KEYFILE,
     "kwinrc": KWINRC,
