@@ -13,5 +13,10 @@ private:
     char* m_arguments[2] = {m_name, nullptr};
 
 protected:
+    /// Windows that were closed are deleted by an event loop, which no test has.
+    void TearDown() override {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
     QApplication application{m_argumentCount, m_arguments};
 };
