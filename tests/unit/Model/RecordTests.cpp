@@ -1,62 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ModelTest.h"
 
-TEST_F(ModelTest, EveryAttributeAndRelationshipSurvivesTheStore) {
-    LMApplication* editor = application();
-    editor->setName(u"Editor"_s);
-    LMWorkspace* workspace = editor->workspace();
-    workspace->setName(u"Desk"_s);
-    auto* action = insert<LMAction>();
-    action->setLabel(u"mount"_s);
-    action->setScript(u"echo hi"_s);
-    action->setRunAs(u"Shell Script"_s);
-    action->setRunOnDisplayChange(true);
-    workspace->addActionsObject(action);
-    LMDisplay* display = all<LMDisplay>().front();
-    display->setProductName(u"Panel"_s);
-    display->setVendorNumber(u"4294967295"_s);
-    display->setModelNumber(u"2"_s);
-    display->setSerialNumber(u"3"_s);
-    LMStoredWindow* stored = storedWindow(u"Draft"_s);
-    editor->windows().addObject(stored);
-    stored->setLabel(u"label"_s);
-    stored->setTitleRegularExpression(u"^Dr"_s);
-    LMWindow* snapshot = stored->orderedMatchingWindows().front();
-    snapshot->setSubrole(u"AXDialog"_s);
-    snapshot->setHasToolbarButton(true);
-    snapshot->setHasGrowArea(true);
-    snapshot->setHasDocument(true);
-    snapshot->setChildren(QStringList{u"AXButton"_s, u"AXGroup"_s});
-    snapshot->setScreenshotFilename(u"a.png"_s);
-    snapshot->setStateString(u"{}"_s);
-    stored->setStateString(u"{\"desktop\":1}"_s);
-
-    const auto everything = [this] {
-        QVariantList result;
-        for (const LMAction* each : all<LMAction>())
-            result << each->label() << each->script() << each->runAs() << each->runOnDisplayChange()
-                   << each->workspace()->name();
-        for (const LMDisplay* each : all<LMDisplay>())
-            result << each->displayBounds() << each->productName() << each->vendorNumber()
-                   << each->modelNumber() << each->serialNumber() << each->workspace()->name();
-        for (const LMStoredWindow* each : all<LMStoredWindow>())
-            result << each->label() << each->titleRegularExpression() << each->frameString()
-                   << each->stateString() << each->matchingWindowsOrdering()
-                   << each->application()->name() << each->application()->bundleIdentifier()
-                   << each->application()->windowsOrdering();
-        for (const LMWindow* each : all<LMWindow>())
-            result << each->title() << each->subrole() << each->frameString()
-                   << each->screenshotFilename() << each->stateString()
-                   << each->children().value_or(QStringList()) << each->hasToolbarButton()
-                   << each->hasGrowArea() << each->hasDocument() << each->storedWindow()->label();
-        return result;
-    };
-    const QVariantList before = everything();
-    EXPECT_EQ(before.size(), 29);
-    saveAndReopen();
-    EXPECT_EQ(everything(), before);
-}
-
 TEST_F(ModelTest, AStateIsKeptAsText) {
     LMStoredState everything;
     LMWindowState& window = everything.window;
@@ -80,19 +24,6 @@ TEST_F(ModelTest, AStateIsKeptAsText) {
                                 u"{\"normalFrame\":\"{{9, 9}, {0, x}}\"}"_s,
                                 u"{\"states\":[\"new\",{}],\"desktop\":1.5,\"x\":1}"_s})
         EXPECT_EQ(LMStateFromString(text), LMStoredState()) << text.toStdString();
-}
-
-TEST_F(ModelTest, RecordsAreNamed) {
-    EXPECT_EQ(insert<LMWorkspace>()->name(), u"1 Display"_s);
-    desktop.setScreens({{0, 0, 100, 100}, {100, 0, 100, 100}});
-    EXPECT_EQ(insert<LMWorkspace>()->name(), u"2 Displays"_s);
-    LMStoredWindow* stored = insert<LMStoredWindow>();
-    EXPECT_EQ(stored->title(), u"No title"_s);
-    EXPECT_EQ(stored->labelOrTitleIfNil(), u"Unlabeled Window"_s);
-    stored->addMatchingWindows({window(u"first"_s), window(u"second"_s)});
-    EXPECT_EQ(stored->labelOrTitleIfNil(), u"first"_s);
-    stored->setLabel(u"mine"_s);
-    EXPECT_EQ(stored->labelOrTitleIfNil(), u"mine"_s);
 }
 
 TEST_F(ModelTest, TheOrderingKeepsStepWithTheSet) {
@@ -121,21 +52,4 @@ TEST_F(ModelTest, TheOrderingKeepsStepWithTheSet) {
     context().deleteObject(b);
     EXPECT_THAT(editor->orderedWindows(), ElementsAre(c, a));
     EXPECT_THAT(editor->windowsOrdering(), ElementsAre(uriC, uriA));
-}
-
-TEST_F(ModelTest, RemovingOneMemberDoesNotReportTheOrderingAsChanged) {
-    makeStore();
-    reopen();
-    LMApplication* editor = all<LMApplication>().front();
-    editor->removeWindowsObject(editor->orderedWindows()[0]);
-    EXPECT_FALSE(editor->hasChanges());
-    EXPECT_EQ(editor->windowsOrdering().size(), 1);
-    saveAndReopen();
-    editor = all<LMApplication>().front();
-    EXPECT_EQ(editor->windowsOrdering().size(), 2); // As it stands in the file, until read.
-    EXPECT_EQ(titles(editor->orderedWindows()), QStringList(u"b"_s));
-    EXPECT_EQ(editor->windowsOrdering().size(), 1);
-
-    editor->removeWindows({editor->orderedWindows().front()});
-    EXPECT_TRUE(editor->hasChanges());
 }

@@ -2,6 +2,8 @@
 #include "Model/LMRemoval.h"
 #include "unit/Model/ModelTest.h"
 
+#include <QRegularExpression>
+
 /// A workspace with two applications of two and one stored windows, and an action.
 class Removals : public ModelTest {
 protected:
@@ -10,51 +12,56 @@ protected:
         editor = application(u"org.editor"_s, workspace);
         editor->addWindows({storedWindow(u"a"_s), storedWindow(u"b"_s), storedWindow(u"c"_s)});
         editor->setWindowsOrdering({uri(2), uri(0), uri(1)});
-        LMStoredWindow* b = editor->orderedWindows()[2];
-        b->addMatchingWindowsObject(window(u"linked later"_s));
-        b->setLabel(u"Label"_s);
-        b->setTitleRegularExpression(u"^b$"_s);
-        b->orderedMatchingWindows()[0]->setScreenshotFilename(u"b.png"_s);
-        b->orderedMatchingWindows()[0]->setChildren(QStringList{u"AXButton"_s});
+        editor->orderedWindows()[2]->addMatchingWindowsObject(window(u"linked later"_s));
         application(u"org.browser"_s, workspace)->addWindows({storedWindow(u"news"_s)});
-        for (const char* label : {"first", "second"}) {
-            auto* action = insert<LMAction>();
-            action->setLabel(QLatin1String(label));
-            action->setScript(u"#!/bin/sh\n\n"_s);
-            action->setRunOnDisplayChange(true);
-            workspace->addActionsObject(action);
-        }
+        for (int i = 0; i < 2; ++i)
+            workspace->addActionsObject(insert<LMAction>());
+        fillIn();
         store->saveWindows();
         workspaceID = workspace->objectID();
     }
 
     QString uri(std::size_t index) { return all<LMStoredWindow>()[index]->uriRepresentation(); }
-    LMObjectID id(const QString& text) {
-        return context().managedObjectIDForURIRepresentation(text);
-    }
 
-    /// Everything that the store holds, in the order in which people see it.
+    std::vector<LMManagedObject*> everything() {
+        const auto workspaces = all<LMWorkspace>();
+        std::vector<LMManagedObject*> objects(workspaces.begin(), workspaces.end());
+        for (std::size_t i = 0; i < objects.size(); ++i) {
+            const auto owned = objects[i]->ownedObjects();
+            objects.insert(objects.end(), owned.begin(), owned.end());
+        }
+        std::ranges::sort(objects, {}, &LMManagedObject::uriRepresentation);
+        return objects;
+    }
+    /// Gives attributes values of their own, except those that records are told apart by.
+    void fillIn() {
+        const QStringList kept{u"title"_s, u"bundleIdentifier"_s, u"displayBounds"_s};
+        for (LMManagedObject* object : everything()) {
+            for (const LMAttributeDescription& attribute : object->entity().attributes) {
+                std::any value = attribute.value(*object);
+                if (auto* text = std::any_cast<QString>(&value);
+                    text && !kept.contains(attribute.name))
+                    *text = object->uriRepresentation() + u' ' + attribute.name;
+                else if (auto* flag = std::any_cast<bool>(&value))
+                    *flag = true;
+                attribute.setValue(*object, value);
+            }
+        }
+    }
+    /// Every value of every record, and what owns it.
     QStringList contents() {
         QStringList lines;
-        const auto add = [&lines](const LMManagedObject& object, const QStringList& values) {
-            lines.append(object.uriRepresentation() + u" "_s + values.join(u"|"_s));
-        };
-        for (LMWorkspace* each : all<LMWorkspace>()) {
-            add(*each, {each->name()});
-            for (const LMDisplay* display : each->displays())
-                add(*display, {display->displayBounds()});
-            for (const LMAction* action : each->actions())
-                add(*action, {action->label(), action->script(), action->runAs(),
-                              QString::number(action->runOnDisplayChange())});
-            for (LMApplication* member : each->applications()) {
-                add(*member, {member->bundleIdentifier()});
-                for (LMStoredWindow* stored : member->orderedWindows()) {
-                    add(*stored,
-                        {stored->label(), stored->titleRegularExpression(), stored->frameString()});
-                    for (const LMWindow* snapshot : stored->orderedMatchingWindows())
-                        add(*snapshot, {snapshot->title(), snapshot->screenshotFilename(),
-                                        snapshot->children().value_or(QStringList()).join(u","_s)});
-                }
+        for (LMManagedObject* object : everything()) {
+            if (auto* member = dynamic_cast<LMApplication*>(object))
+                lines += titles(member->orderedWindows()); // Puts the ordering in order.
+            lines += object->uriRepresentation();
+            lines += object->owner() ? object->owner()->uriRepresentation() : QString();
+            for (const LMAttributeDescription& attribute : object->entity().attributes) {
+                const std::any value = attribute.value(*object);
+                if (const auto* text = std::any_cast<QString>(&value))
+                    lines += *text;
+                else if (const auto* list = std::any_cast<QStringList>(&value))
+                    lines += *list;
             }
         }
         return lines;
@@ -65,34 +72,22 @@ protected:
     LMObjectID workspaceID;
 };
 
-/// Each row removes more, in this order; everything comes back in the opposite order.
-TEST_F(Removals, AreTakenBackWholeAfterTheyWereSaved) {
-    const struct {
-        QString what;
-        std::size_t workspaces, applications, windows, snapshots, actions;
-    } rows[] = {
-        {u"rook://StoredWindow/1"_s, 1, 2, 3, 4, 2}, {u"rook://StoredWindow/2"_s, 1, 2, 2, 2, 2},
-        {u"rook://Application/2"_s, 1, 1, 1, 1, 2},  {u"rook://Action/1"_s, 1, 1, 1, 1, 1},
-        {u"rook://Action/2"_s, 1, 1, 1, 1, 0},       {u"rook://StoredWindow/3"_s, 0, 0, 0, 0, 0},
-    };
-    for (int round = 0; round < 2; ++round) {
+/// From the first to the last; everything comes back in the opposite order.
+TEST_F(Removals, AreTakenBackWholeWhetherTheyWereSavedOrNot) {
+    for (const bool isSaved : {true, false}) {
         std::vector<LMRemoval> removals;
         QList<QStringList> before;
-        for (const auto& row : rows) {
+        for (const char* what : {"StoredWindow/1", "StoredWindow/2", "Application/2", "Action/1",
+                                 "Action/2", "StoredWindow/3"}) {
+            const LMObjectID id =
+                context().managedObjectIDForURIRepresentation(u"rook://"_s + QLatin1String(what));
             before.append(contents());
-            ASSERT_TRUE(removals.emplace_back(context(), id(row.what)).perform())
-                << row.what.toStdString();
-            EXPECT_FALSE(LMRemoval(context(), id(row.what)).perform());
-            if (round == 0)
+            ASSERT_TRUE(removals.emplace_back(context(), id).perform());
+            EXPECT_FALSE(LMRemoval(context(), id).perform());
+            if (isSaved)
                 store->saveWindows();
-            EXPECT_EQ(all<LMWorkspace>().size(), row.workspaces) << row.what.toStdString();
-            if (round > 0)
-                continue; // What is not saved is taken back as well.
-            EXPECT_EQ(all<LMApplication>().size(), row.applications) << row.what.toStdString();
-            EXPECT_EQ(all<LMStoredWindow>().size(), row.windows) << row.what.toStdString();
-            EXPECT_EQ(all<LMWindow>().size(), row.snapshots) << row.what.toStdString();
-            EXPECT_EQ(all<LMAction>().size(), row.actions) << row.what.toStdString();
         }
+        EXPECT_TRUE(everything().empty());
         while (!removals.empty()) {
             EXPECT_EQ(removals.back().takeBack()->objectID(), workspaceID);
             removals.pop_back();
@@ -103,6 +98,28 @@ TEST_F(Removals, AreTakenBackWholeAfterTheyWereSaved) {
     const QStringList whole = contents();
     saveAndReopen();
     EXPECT_EQ(contents(), whole);
+}
+
+TEST_F(Removals, FindEveryAttributeInTheStore) {
+    reopen();
+    const LMAction* action = all<LMAction>().front();
+    const LMDisplay* display = all<LMDisplay>().front();
+    const LMStoredWindow* stored = all<LMStoredWindow>().front();
+    const LMWindow* snapshot = all<LMWindow>().front();
+    QStringList texts;
+    texts << action->label() << action->script() << action->runAs() << display->productName()
+          << display->vendorNumber() << display->modelNumber() << display->serialNumber()
+          << stored->label() << stored->titleRegularExpression() << stored->frameString()
+          << stored->stateString() << snapshot->subrole() << snapshot->frameString()
+          << snapshot->screenshotFilename() << snapshot->stateString()
+          << all<LMWorkspace>().front()->name();
+    texts.replaceInStrings(QRegularExpression(u"^rook://\\w+/1 "_s), QString());
+    EXPECT_EQ(texts.join(u' '),
+              u"label script runAs productName vendorNumber modelNumber serialNumber label "
+              "titleRegularExpression frameString stateString subrole frameString "
+              "screenshotFilename stateString name"_s);
+    EXPECT_TRUE(action->runOnDisplayChange() && snapshot->hasToolbarButton() &&
+                snapshot->hasGrowArea() && snapshot->hasDocument());
 }
 
 /// Storing all windows anew makes new records of the same applications, and a new workspace where

@@ -11,7 +11,7 @@ TEST_F(ModelTest, AFullDiskLeavesTheOldContentsAndTheChangesInMemory) {
         reopen();
         makeStore();
         reopen();
-        const std::vector<LMStoredWindow*> stored = all<LMStoredWindow>();
+        const auto stored = all<LMStoredWindow>();
         const QByteArray before = LMFileContent(path());
         all<LMApplication>().front()->setName(u"written first"_s);
         stored[0]->orderedMatchingWindows().front()->setTitle(longTitle);

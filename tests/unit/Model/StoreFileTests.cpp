@@ -25,7 +25,6 @@ protected:
 TEST_F(StoreFileTest, RefusedStoresStayAsTheyAre) {
     makeStore();
     const QByteArray good = LMFileContent(path());
-    const QByteArray noise(20'000, 'g');
     const qint64 size = good.size();
     const QFileInfo file(path());
     const auto folderOnly = QFile::ReadOwner | QFile::ExeOwner;
@@ -33,12 +32,10 @@ TEST_F(StoreFileTest, RefusedStoresStayAsTheyAre) {
     const char* const notes = "PRAGMA journal_mode = WAL; CREATE TABLE notes(text)";
     const char* const shape = "DROP TABLE Action; CREATE TABLE Action(name, \"key\")";
     const std::tuple<const char*, std::function<void()>, const char*> rows[] = {
-        {"garbage", [&] { resize(0), overwrite(0, noise); }, "not a store file"},
         {"short garbage", [&] { resize(1); }, "not a store file"},
         {"header only", [&] { resize(100); }, "cut short"},
-        {"cut within a page", [&] { resize(size - 1); }, "cut short"},
         {"cut by a page", [&] { resize(size - 4096); }, "malformed"},
-        {"damaged page", [&] { overwrite(4096, noise.first(4096)); }, "damaged: "},
+        {"damaged page", [&] { overwrite(4096, QByteArray(4096, 'g')); }, "damaged: "},
         {"newer version", [&] { execute("PRAGMA user_version = 3"); }, "newer version"},
         {"other program's mark", [&] { execute("PRAGMA application_id = 7"); }, "another program"},
         {"other program's tables", [&] { remove(), execute(notes); }, "another program"},

@@ -14,28 +14,17 @@ TEST_F(ModelTest, FailuresToOpenSayWhatIsWrong) {
     EXPECT_TRUE(test.hasLogged(u"Save failed: "_s));
     EXPECT_TRUE(QFileInfo(path()).isDir());
 
-    EXPECT_EQ(LMStoredWindowsStore(environment, {}, nullptr).open().error().failure,
-              LMStoreFailure::ModelMissing);
     ASSERT_TRUE(QDir(test.path(u"Rook"_s)).removeRecursively());
     LMWriteFile(test.path(u"Rook"_s));
     reopen();
     EXPECT_EQ(store->open().error().failure, LMStoreFailure::FoldersCannotBeMade);
 }
 
-TEST_F(ModelTest, SavingDeletesWhatNothingOwnsAndReloadsTables) {
-    QStringList calls;
-    store->setCommitEditingHandler([&] {
-        calls.append(u"commit"_s);
-        return false;
-    });
-    store->setReloadTablesHandler([&] { calls.append(u"reload"_s); });
+TEST_F(ModelTest, SavingDeletesWhatNothingOwns) {
     LMApplication* dropped = application(u"org.dropped"_s);
     application(u"org.kept"_s, dropped->workspace())->addWindowsObject(storedWindow(u"kept"_s));
     dropped->addWindows({storedWindow(u"x"_s), storedWindow(u"y"_s)});
     store->saveWindows();
-    EXPECT_THAT(calls, ElementsAre(u"commit"_s, u"reload"_s));
-    EXPECT_THAT(test.messages, ElementsAre(u"Commit editing failed."_s));
-
     dropped->workspace()->removeApplicationsObject(dropped);
     insert<LMAction>();
     insert<LMDisplay>();
