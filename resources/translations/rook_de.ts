@@ -176,6 +176,7 @@
     </message>
     <message>
         <location filename="../../src/CommandLine/LMInvocation.cpp"/>
+        <location filename="../../src/CommandLine/LMTables.cpp"/>
         <location filename="../../src/UserInterface/Editing/LMStateText.cpp"/>
         <source>, </source>
         <translation>, </translation>

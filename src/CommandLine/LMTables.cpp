@@ -52,7 +52,7 @@ QString stateText(const QJsonValue& state) {
                                  : LMFormat(LMLocalized("desktop %@ “%@”"), {number, name}));
     }
     return words.isEmpty() ? QStringLiteral("-")
-                           : LMTables::printable(words.join(QStringLiteral(", ")), CellLength);
+                           : LMTables::printable(words.join(LMLocalized(", ")), CellLength);
 }
 
 /// How a window stands, how it is going to, and what it was stored with that cannot be had.
@@ -103,7 +103,7 @@ QString statusText(const QJsonObject& report) {
     QStringList names;
     for (auto item = capabilities.begin(); item != capabilities.end(); ++item)
         names.append(item.key() + (item->toBool() ? QString() : LMLocalized(" (no)")));
-    add(LMLocalized("Capabilities"), names.join(QStringLiteral(", ")));
+    add(LMLocalized("Capabilities"), names.join(LMLocalized(", ")));
     add(LMLocalized("Permission"), yesOrNo(report[u"permission"][u"trusted"].toBool()));
     for (const auto& missing : report[u"permission"][u"missing"].toArray())
         add(LMLocalized("Missing"), LMTables::printable(missing.toString()));
