@@ -30,17 +30,6 @@ TEST_P(ApplicationsContract, RunningApplicationsAreListedInTheOrderOfTheirLaunch
     EXPECT_EQ(running(second).activationPolicy, LMActivationPolicy::Accessory);
 }
 
-TEST_P(ApplicationsContract, ManyProcessesAreOneApplicationOfTheOldest) {
-    const LMElement oldest = open();
-    const qint64 number = process();
-    for (const int younger : {1, 2, 3, 4})
-        open({.process = younger});
-    EXPECT_EQ(process(), number);
-    EXPECT_EQ(windows().size(), 5);
-    backend->closeWindow(oldest);
-    EXPECT_TRUE(LMWaitUntil([&] { return windows().size() == 4 && !windows().contains(oldest); }));
-}
-
 TEST_P(ApplicationsContract, ActivationGivesTheFocusToTheLatestWindow) {
     const LMElement older = open({.title = u"1"_qs});
     const LMElement latest = open({.title = u"2"_qs});

@@ -44,23 +44,3 @@ TEST_P(FramesContract, FramesSurviveRoundTripsWithEveryGravityAndDecoration) {
         }
     }
 }
-
-TEST_P(FramesContract, AMinimizedWindowKeepsItsFrameAndCanBeMoved) {
-    const LMElement window = open();
-    const QRectF before = frame(window);
-    backend->minimize(window);
-    EXPECT_EQ(frame(window), before);
-    ASSERT_TRUE(set(window, LMAttribute::Position, QPointF(77, 88)));
-    EXPECT_EQ(frame(window).topLeft(), QPointF(77, 88));
-    EXPECT_TRUE(backend->isMinimized(window));
-}
-
-TEST_P(FramesContract, AWindowMayRoundItsSizeAndSaysSo) {
-    const LMElement window = open({.increment = QSize(10, 20)});
-    const QSizeF before = frame(window).size();
-    const QSizeF wanted = before + QSizeF(34, 47);
-    EXPECT_TRUE(set(window, LMAttribute::Size, wanted));
-    const QSizeF rounded = frame(window).size();
-    EXPECT_TRUE(rounded == before + QSizeF(30, 40) || rounded == wanted) << "some obey exactly";
-    EXPECT_EQ(backend->visibleFrame(window).size(), rounded);
-}

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "contract/LMContractKeyboard.h"
 #include "Platform/LMDesktop.h"
 #include "support/LMDesktopTools.h"
 
@@ -16,7 +15,6 @@ struct LMContractWindow {
     enum class Kind { Standard, Dialog, Utility, ClientDecorated };
 
     QString application = QStringLiteral("first"); ///< Its identifier.
-    int process = 0;                               ///< Which of the application's processes.
     QString title = QStringLiteral("Window");
     Kind kind = Kind::Standard;
     int gravity = 1; ///< As in the ICCCM: 1 is north-west, 10 is static.
@@ -24,8 +22,6 @@ struct LMContractWindow {
     bool isResizable = true;
     bool isModal = false;
 };
-
-enum class LMContractState { Fullscreen, Above, Maximized };
 
 /// What the user has in view.
 struct LMContractView {
@@ -47,22 +43,19 @@ public:
     virtual LMElement openWindow(const LMContractWindow& window) = 0;
     virtual void closeWindow(const LMElement& window) = 0;
     virtual void setTitle(const LMElement& window, const QString& title) = 0;
-    /// Returns when the window is minimised.
-    virtual void minimize(const LMElement& window) = 0;
-    virtual void setState(const LMElement& window, LMContractState state, bool isSet = true) = 0;
+    /// Returns when the window is so for everybody.
+    virtual void setState(const LMElement& window, const LMWindowState& state) = 0;
+    void minimize(const LMElement& window) {
+        setState(window, {.isMinimized = true, .desktop = 0});
+    }
     /// Brings the window to the front and gives it the focus.
     virtual void raise(const LMElement& window) = 0;
-    /// The process that owns the window stops answering until the end of the test.
-    virtual void freeze(const LMElement& window) = 0;
-    virtual void breakConnection() = 0;
-    /// Null where nobody can type.
-    virtual LMContractKeyboard* keyboard() { return nullptr; }
 
     /// The frame that the user sees, global pixels.
     virtual QRectF visibleFrame(const LMElement& window) = 0;
-    virtual bool isMinimized(const LMElement& window) = 0;
     /// Without the normal frame and the desktop's name.
     virtual LMWindowState visibleState(const LMElement& window) = 0;
+    bool isMinimized(const LMElement& window) { return visibleState(window).isMinimized; }
     virtual LMContractView view() = 0;
     /// The monitors' rectangles, global pixels, in any order.
     virtual QList<QRectF> monitors() = 0;

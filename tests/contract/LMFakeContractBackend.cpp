@@ -16,28 +16,12 @@ public:
     void setTitle(const LMElement& window, const QString& title) override {
         m_desktop.window(window).title = title;
     }
-    void minimize(const LMElement& window) override {
-        m_desktop.window(window).state.isMinimized = true;
-        m_desktop.world().focusFrontWindow();
-    }
-    void setState(const LMElement& element, LMContractState state, bool isSet) override {
-        LMFakeWindow& window = m_desktop.window(element);
-        LMWindowState changed = window.state;
-        if (state == LMContractState::Above)
-            changed.isKeptAbove = isSet;
-        else if (state == LMContractState::Fullscreen)
-            changed.isFullscreen = isSet;
-        else
-            changed.isMaximizedHorizontally = changed.isMaximizedVertically = isSet;
-        m_desktop.world().changeState(window, changed);
+    void setState(const LMElement& window, const LMWindowState& state) override {
+        m_desktop.world().changeState(m_desktop.window(window), state);
+        m_desktop.world().keepFocusInSight();
     }
     void raise(const LMElement& window) override { m_desktop.focus(window); }
-    void freeze(const LMElement& window) override { m_desktop.window(window).neverAnswers = true; }
-    void breakConnection() override { m_desktop.loseConnection(u"The test broke it."_qs); }
     QRectF visibleFrame(const LMElement& window) override { return m_desktop.window(window).frame; }
-    bool isMinimized(const LMElement& window) override {
-        return m_desktop.window(window).state.isMinimized;
-    }
     LMWindowState visibleState(const LMElement& window) override {
         return m_desktop.window(window).state;
     }
@@ -60,7 +44,7 @@ LMElement LMFakeContractBackend::openWindow(const LMContractWindow& window) {
     using Kind = LMContractWindow::Kind;
     const bool isUtility = window.kind == Kind::Utility;
     if (!m_desktop.world().application(window.application))
-        m_desktop.addApplication(window.application, {}, {},
+        m_desktop.addApplication(window.application, {},
                                  isUtility ? LMActivationPolicy::Accessory
                                            : LMActivationPolicy::Regular);
     const LMElement element = m_desktop.addWindow(
@@ -71,8 +55,7 @@ LMElement LMFakeContractBackend::openWindow(const LMContractWindow& window) {
                                                                       : u"AXStandardWindow"_qs,
                              .hasGrowArea = window.isResizable,
                              .isModal = window.isModal,
-                             .hasImmutableSize = !window.isResizable,
-                             .sizeIncrement = window.increment});
+                             .hasImmutableSize = !window.isResizable});
     m_desktop.focus(element);
     return element;
 }

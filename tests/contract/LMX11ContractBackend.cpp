@@ -7,11 +7,7 @@
 #include <QRegularExpression>
 
 #include <array>
-#include <csignal>
 #include <map>
-#include <sys/types.h>
-#include <unistd.h>
-#include <xcb/res.h>
 
 namespace {
 
@@ -69,33 +65,15 @@ public:
         const QString command = u"retitle %1 %2"_qs.arg(window.identifier).arg(encoded(title));
         client(window).ask(command.toLatin1());
     }
-    void minimize(const LMElement& window) override;
-    void setState(const LMElement& window, LMContractState state, bool isSet) override {
-        constexpr std::array words{"fullscreen", "above", "maximized_vert,maximized_horz"};
-        LMRunTool(u"wmctrl -i -r %1 -b %2,%3"_qs.arg(window.identifier)
-                      .arg(isSet ? u"add"_qs : u"remove"_qs)
-                      .arg(QLatin1String(words.at(size_t(state)))));
-    }
+    void setState(const LMElement& window, const LMWindowState& state) override;
     void raise(const LMElement& window) override;
-    void freeze(const LMElement& window) override {
-        kill(pid_t(client(window).process()), SIGSTOP);
-    }
-    void breakConnection() override;
-    LMContractKeyboard* keyboard() override { return m_keyboard.get(); }
     QRectF visibleFrame(const LMElement& window) override;
-    bool isMinimized(const LMElement& window) override {
-        return properties(window).contains(u"state: Iconic"_qs);
-    }
     LMWindowState visibleState(const LMElement& window) override;
     LMContractView view() override;
     QList<QRectF> monitors() override;
 
 private:
-    using ProcessKey = std::pair<QString, int>;
-
-    LMWindowClient& client(const LMElement& window) {
-        return *m_clients.at(m_owners.at(window.identifier));
-    }
+    LMWindowClient& client(const LMElement& window) { return *m_owners.at(window.identifier); }
     static QString properties(const LMElement& window) {
         return LMRunTool(
             u"xprop -notype -id %1 WM_STATE _NET_FRAME_EXTENTS _GTK_FRAME_EXTENTS"_qs.arg(
@@ -104,10 +82,9 @@ private:
 
     LMLogger m_logger;
     std::unique_ptr<LMX11Connection> m_connection; ///< Not the desktop's.
-    std::unique_ptr<LMContractKeyboard> m_keyboard;
     std::unique_ptr<LMDesktop> m_desktop;
-    std::map<ProcessKey, std::unique_ptr<LMWindowClient>> m_clients;
-    std::map<qint64, ProcessKey> m_owners; ///< By window.
+    std::map<QString, std::unique_ptr<LMWindowClient>> m_clients; ///< By application.
+    std::map<qint64, LMWindowClient*> m_owners;                   ///< By window.
     QPointF m_mainOrigin; ///< Where the main monitor stood when monitors were last read.
 };
 
@@ -117,26 +94,22 @@ LMX11ContractBackend::LMX11ContractBackend() {
     m_desktop = LMX11Backend().create(m_logger, &reason);
     if (!m_connection || !m_desktop)
         throw std::runtime_error(reason.toStdString());
-    m_keyboard = LMMakeX11ContractKeyboard(*m_connection);
     monitors();
 }
 
 LMX11ContractBackend::~LMX11ContractBackend() {
-    for (const auto& [key, client] : m_clients)
-        kill(pid_t(client->process()), SIGCONT);
     m_clients.clear();
     // The next test begins without windows: the server will give them the same numbers.
     LMWaitUntilNoWindowIsListed();
 }
 
 LMElement LMX11ContractBackend::openWindow(const LMContractWindow& window) {
-    const ProcessKey key(window.application, window.process);
-    auto& client = m_clients[key];
+    auto& client = m_clients[window.application];
     if (!client)
         client = std::make_unique<LMWindowClient>();
     const QByteArray number = client->ask(creation(window).toLatin1()).split(' ').at(1);
     const LMElement element{LMElement::Kind::Window, number.toLongLong(nullptr, 0), 0};
-    m_owners[element.identifier] = key;
+    m_owners[element.identifier] = client.get();
     // Managed, decorated, placed, and nothing has moved from one look to the next.
     const bool isDecorated = window.kind != LMContractWindow::Kind::ClientDecorated;
     QRectF last;
@@ -152,11 +125,36 @@ LMElement LMX11ContractBackend::openWindow(const LMContractWindow& window) {
     return element;
 }
 
-void LMX11ContractBackend::minimize(const LMElement& window) {
+void LMX11ContractBackend::setState(const LMElement& window, const LMWindowState& state) {
+    const LMWindowState now = visibleState(window);
     const QRectF before = visibleFrame(window);
-    LMRunTool(u"xdotool windowminimize %1"_qs.arg(window.identifier));
-    // openbox draws how the window shrinks to an icon by moving its frame about.
-    LMWaitUntil([&] { return isMinimized(window) && visibleFrame(window) == before; });
+    const std::tuple<bool, bool, const char*> flags[] = {
+        {now.isMaximizedVertically, state.isMaximizedVertically, "maximized_vert"},
+        {now.isMaximizedHorizontally, state.isMaximizedHorizontally, "maximized_horz"},
+        {now.isFullscreen, state.isFullscreen, "fullscreen"},
+        {now.isShaded, state.isShaded, "shaded"},
+        {now.isKeptAbove, state.isKeptAbove, "above"},
+    };
+    QStringList words;
+    for (const auto& [is, shallBe, word] : flags)
+        if (is != shallBe)
+            words.append(QLatin1String(word));
+    const auto run = [&](const QString& command) { LMRunTool(command.arg(window.identifier)); };
+    if (!words.isEmpty())
+        run(u"wmctrl -i -r %1 -b toggle,"_qs + words.join(u','));
+    if (now.desktop != state.desktop)
+        run(u"wmctrl -i -r %1 -t "_qs + QString::number(state.desktop.value_or(-1)));
+    if (!now.isMinimized && state.isMinimized)
+        run(u"xdotool windowminimize %1"_qs);
+    if (now.isMinimized && !state.isMinimized)
+        raise(window);
+    // openbox draws how a window shrinks to an icon by moving its frame about.
+    const auto isSo = [&] {
+        return visibleState(window) == state &&
+               (!state.isMinimized || visibleFrame(window) == before);
+    };
+    if (!LMWaitUntil(isSo))
+        throw std::runtime_error("the window manager did not set the state");
 }
 
 /// No tool does this as a user's click does, with the time at which it happens: managers stamp
@@ -167,22 +165,6 @@ void LMX11ContractBackend::raise(const LMElement& window) {
                                       m_connection->ewmhAtoms()._NET_ACTIVE_WINDOW,
                                       {user, m_connection->serverTime()});
     m_connection->serverTime(); // The server has passed it on.
-}
-
-/// Has the server drop all connections of this process but the one that asks for it.
-void LMX11ContractBackend::breakConnection() {
-    xcb_connection_t* xcb = m_connection->xcb();
-    const uint32_t ownBase = xcb_get_setup(xcb)->resource_id_base;
-    const xcb_res_client_id_spec_t everyone{0, XCB_RES_CLIENT_ID_MASK_LOCAL_CLIENT_PID};
-    const auto reply = m_connection->reply(xcb_res_query_client_ids_reply,
-                                           xcb_res_query_client_ids(xcb, 1, &everyone));
-    for (auto at = xcb_res_query_client_ids_ids_iterator(reply.get()); at.rem > 0;
-         xcb_res_client_id_value_next(&at)) {
-        const auto process = pid_t(*xcb_res_client_id_value_value(at.data));
-        if (process == getpid() && at.data->spec.client != ownBase)
-            xcb_kill_client(xcb, at.data->spec.client);
-    }
-    m_connection->flush();
 }
 
 QRectF LMX11ContractBackend::visibleFrame(const LMElement& window) {

@@ -25,30 +25,3 @@ TEST_P(ScreensContract, BothCoordinateFormsDescribeTheSameMonitors) {
     EXPECT_EQ(desktop().screens().screens(), screens);
     EXPECT_EQ(desktop().screens().spacesByMonitor().size(), screens.size());
 }
-
-TEST_P(ScreensContract, AnArrangementTakesEffectOnlyWhenItIsCompleted) {
-    LMScreens& service = desktop().screens();
-    const QList<LMScreen> before = service.screens();
-    if (!service.canArrangeDisplays() || before.size() < 2)
-        GTEST_SKIP() << "displays cannot be arranged";
-    int changes = 0;
-    QObject::connect(&service, &LMScreens::screenParametersChanged, &desktop(), [&] { ++changes; });
-    const QPointF origin = before.last().displayBounds.topLeft();
-    const QPointF moved = before.first().displayBounds.topRight() + QPointF(0, 40);
-    int expected = 0;
-    for (const auto& [wanted, completes] :
-         {std::pair(moved, false), {moved, true}, {origin, true}}) {
-        const auto configuration = service.beginDisplayConfiguration();
-        ASSERT_NE(configuration, nullptr);
-        EXPECT_FALSE(configuration->configureDisplayOrigin(0x7ffffff0, 0, 0));
-        EXPECT_TRUE(configuration->configureDisplayOrigin(before.last().displayID, int(wanted.x()),
-                                                          int(wanted.y())));
-        EXPECT_TRUE(!completes || configuration->completePermanently());
-        const QRectF now = service.screens().last().displayBounds;
-        EXPECT_EQ(now.topLeft(), completes ? wanted : origin);
-        EXPECT_TRUE(backend->monitors().contains(now));
-        expected += completes ? 1 : 0;
-        EXPECT_TRUE(LMWaitUntil([&] { return changes >= expected; })); // mutter adds its own.
-    }
-    EXPECT_TRUE(LMWaitUntil([&] { return service.screens() == before; })); // And work areas.
-}

@@ -50,11 +50,12 @@ Value windowValue(const LMElement& element, const LMFakeWindow& window, QLatin1S
     return value != values.end() ? value->second : presence(false);
 }
 
-/// The size rounded down to whole increments, but no less than one pixel.
-QSizeF rounded(const QSizeF& size, const QSizeF& increment) {
-    const auto steps = [](double length, double step) { return std::floor(length / step) * step; };
-    return QSizeF(steps(size.width(), increment.width()), steps(size.height(), increment.height()))
-        .expandedTo({1, 1});
+bool canSet(const LMFakeWindow& window, QLatin1String attribute) {
+    if (window.state.isFullscreen)
+        return false;
+    return attribute == LMAttribute::Position
+               ? !window.hasImmutablePosition
+               : attribute == LMAttribute::Size && !window.hasImmutableSize;
 }
 
 QString request(const char* what, const LMFakeWindow& window, double first, double second) {
@@ -64,25 +65,10 @@ QString request(const char* what, const LMFakeWindow& window, double first, doub
 
 } // namespace
 
-void LMFakeAccessibility::fail(const LMElement& element, LMFakeCall call, QLatin1String attribute,
-                               LMPlatformError error, int after) {
-    m_injected.insert_or_assign({element, call, attribute}, Answer{Failed{error}, after});
-}
-
-void LMFakeAccessibility::answer(const LMElement& element, QLatin1String attribute,
-                                 const LMAttributeValue& value) {
-    m_injected.insert_or_assign({element, LMFakeCall::Copy, attribute},
-                                Answer{Value::success(value), 0});
-}
-
 std::optional<Value> LMFakeAccessibility::injected(const LMElement& element, LMFakeCall call,
                                                    QLatin1String attribute) {
-    if (!m_world.isConnected)
-        return Failed{CannotComplete};
     const auto found = m_injected.find({element, call, attribute});
-    if (found == m_injected.end() || found->second.after-- > 0)
-        return std::nullopt;
-    return found->second.value;
+    return found != m_injected.end() ? std::optional(found->second) : std::nullopt;
 }
 
 LMPlatformResult<LMElement> LMFakeAccessibility::createApplication(qint64 processIdentifier) {
@@ -158,13 +144,8 @@ LMPlatformResult<bool> LMFakeAccessibility::isAttributeSettable(const LMElement&
     if (const auto answer = injected(element, LMFakeCall::IsSettable, attribute))
         return Failed{answer->error()};
     const auto window = readWindow(element);
-    if (!window)
-        return Failed{window.error()};
-    const bool isSettable = attribute == LMAttribute::Position
-                                ? !window->hasImmutablePosition
-                                : attribute == LMAttribute::Size && !window->hasImmutableSize;
-    return LMPlatformResult<bool>::success(element.kind == LMElement::Kind::Window &&
-                                           !window->state.isFullscreen && isSettable);
+    return window ? LMPlatformResult<bool>::success(canSet(*window, attribute))
+                  : Failed{window.error()};
 }
 
 LMPlatformStatus LMFakeAccessibility::setAttributeValue(const LMElement& element,
@@ -182,10 +163,9 @@ LMPlatformStatus LMFakeAccessibility::setAttributeValue(const LMElement& element
     const auto* size = attribute == LMAttribute::Size ? std::get_if<QSizeF>(&value) : nullptr;
     if (!point && !size)
         return Failed{NotSettable};
-    m_world.log.add(point ? request("position", *window, point->x(), point->y())
-                          : request("size", *window, size->width(), size->height()));
-    if (window->state.isFullscreen ||
-        (point ? window->hasImmutablePosition : window->hasImmutableSize))
+    m_world.log.append(point ? request("position", *window, point->x(), point->y())
+                             : request("size", *window, size->width(), size->height()));
+    if (!canSet(*window, attribute))
         return Failed{NotSettable};
     LMWindowState state = window->state;
     state.isMaximizedHorizontally = state.isMaximizedVertically = false;
@@ -196,14 +176,13 @@ LMPlatformStatus LMFakeAccessibility::setAttributeValue(const LMElement& element
     else if (window->ignoredSizeChanges > 0)
         --window->ignoredSizeChanges;
     else
-        window->frame.setSize(rounded(*size, window->sizeIncrement));
+        window->frame.setSize(
+            QSizeF(std::floor(size->width()), std::floor(size->height())).expandedTo({1, 1}));
     return LMPlatformStatus::success();
 }
 
 void LMFakeAccessibility::beginReading(const QList<LMElement>& windows) {
     ++m_readingDepth;
-    if (!m_world.isConnected)
-        return;
     const int before = m_world.roundTrips;
     for (const LMElement& element : windows) {
         if (element.kind == LMElement::Kind::Window && !m_remembered.contains(element.identifier))

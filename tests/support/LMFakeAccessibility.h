@@ -32,28 +32,25 @@ public:
     void forget(const LMElement& window) { m_remembered.erase(window.identifier); }
 
     // --- for tests ----------------------------------------------------------------------------
-    /// Makes this call fail after so many calls that go well.
+    /// Makes this call fail; that of createApplication has no element and no attribute.
     void fail(const LMElement& element, LMFakeCall call, QLatin1String attribute,
-              LMPlatformError error, int after = 0);
-    void failCreateApplication(LMPlatformError error) {
-        fail({}, LMFakeCall::CreateApplication, QLatin1String(), error);
+              LMPlatformError error) {
+        m_injected.insert_or_assign({element, call, attribute}, Answer::failure(error));
     }
     /// Answers reads of the attribute with this value, whatever its type.
-    void answer(const LMElement& element, QLatin1String attribute, const LMAttributeValue& value);
+    void answer(const LMElement& element, QLatin1String attribute, const LMAttributeValue& value) {
+        m_injected.insert_or_assign({element, LMFakeCall::Copy, attribute}, Answer::success(value));
+    }
     /// Takes back every failure and answer.
     void mend() { m_injected.clear(); }
 
 private:
-    struct Answer {
-        LMPlatformResult<LMAttributeValue> value;
-        int after;
-    };
+    using Answer = LMPlatformResult<LMAttributeValue>;
 
-    /// What tests, or the loss of the connection, make the call answer.
-    std::optional<LMPlatformResult<LMAttributeValue>>
-    injected(const LMElement& element, LMFakeCall call, QLatin1String attribute);
-    LMPlatformResult<LMAttributeValue> applicationValue(const LMElement& element,
-                                                        QLatin1String attribute);
+    /// What tests make the call answer.
+    std::optional<Answer> injected(const LMElement& element, LMFakeCall call,
+                                   QLatin1String attribute);
+    Answer applicationValue(const LMElement& element, QLatin1String attribute);
     LMPlatformResult<QList<LMElement>> elements(const LMElement& element, LMFakeCall call,
                                                 QLatin1String attribute);
 

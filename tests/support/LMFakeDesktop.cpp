@@ -3,39 +3,18 @@
 
 #include <stdexcept>
 
-LMFakeDesktop::LMFakeDesktop()
-    : m_accessibility(m_world), m_windowServer(m_world), m_windowStates(m_world, m_accessibility),
-      m_screens(m_world), m_applications(m_world) {
-    setScreens({QRectF(0, 0, 1440, 900)});
-}
-
-LMPermission LMFakeDesktop::checkPermission() {
-    if (!m_world.isConnected)
-        return {false, {QStringLiteral("The connection is lost.")}};
-    return m_world.permission;
-}
-
 QList<LMCapability> LMFakeDesktop::capabilities() const {
     return {{QStringLiteral("arrangeDisplays"), m_world.canArrangeDisplays},
             {QStringLiteral("hotKeys"), m_hotKeys.isAvailable()}};
 }
 
-QString LMFakeDesktop::windowManagerName() const {
-    return m_world.isConnected ? QStringLiteral("Fake 1.0") : QString();
-}
-
-qint64 LMFakeDesktop::addApplication(const QString& bundleIdentifier, const QString& localizedName,
-                                     const QList<qint64>& processIdentifiers,
-                                     LMActivationPolicy policy) {
+void LMFakeDesktop::addApplication(const QString& bundleIdentifier, const QString& localizedName,
+                                   LMActivationPolicy policy) {
     m_world.applications.append(
         {.bundleIdentifier = bundleIdentifier,
          .localizedName = localizedName.isNull() ? bundleIdentifier : localizedName,
-         .processIdentifiers = processIdentifiers,
+         .processIdentifier = ++m_lastProcessIdentifier,
          .activationPolicy = policy});
-    QList<qint64>& processes = m_world.applications.last().processIdentifiers;
-    if (processes.isEmpty())
-        processes = {++m_lastProcessIdentifier};
-    return processes.first();
 }
 
 void LMFakeDesktop::removeApplication(const QString& bundleIdentifier) {
@@ -57,7 +36,7 @@ LMElement LMFakeDesktop::addWindow(const QString& bundleIdentifier, LMFakeWindow
     m_world.windows.insert(number, window);
     m_world.stacking.append(number);
     if (isLaunch)
-        Q_EMIT m_applications.applicationLaunched(bundleIdentifier);
+        Q_EMIT m_applications->applicationLaunched(bundleIdentifier);
     return {LMElement::Kind::Window, number, 0};
 }
 
@@ -85,10 +64,5 @@ void LMFakeDesktop::setScreens(const QList<QRectF>& displayBounds) {
     QList<LMScreen> screens;
     for (const QRectF& bounds : displayBounds)
         screens.emplaceBack().displayBounds = bounds;
-    m_screens.setScreens(screens);
-}
-
-void LMFakeDesktop::loseConnection(const QString& reason) {
-    m_world.isConnected = false;
-    Q_EMIT connectionLost(reason);
+    m_world.setScreens(screens);
 }

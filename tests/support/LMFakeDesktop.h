@@ -3,11 +3,8 @@
 
 #include "Platform/LMDesktop.h"
 #include "support/LMFakeAccessibility.h"
-#include "support/LMFakeApplications.h"
 #include "support/LMFakeHotKeys.h"
-#include "support/LMFakeScreens.h"
-#include "support/LMFakeWindowServer.h"
-#include "support/LMFakeWindowStates.h"
+#include "support/LMFakeServices.h"
 #include "support/LMFakeWorld.h"
 
 /// A desktop in memory. It keeps the contracts of a real one, and a second interface lets tests
@@ -22,32 +19,30 @@
 class LMFakeDesktop final : public LMDesktop {
     Q_OBJECT
 public:
-    LMFakeDesktop();
+    LMFakeDesktop() { setScreens({QRectF(0, 0, 1440, 900)}); }
 
     QString backendName() const override { return QStringLiteral("Fake"); }
     LMFakeAccessibility& accessibility() override { return m_accessibility; }
-    LMFakeWindowServer& windowServer() override { return m_windowServer; }
-    LMFakeWindowStates& windowStates() override { return m_windowStates; }
-    LMFakeScreens& screens() override { return m_screens; }
-    LMFakeApplications& applications() override { return m_applications; }
+    LMWindowServer& windowServer() override { return *m_windowServer; }
+    LMWindowStates& windowStates() override { return *m_windowStates; }
+    LMScreens& screens() override { return *m_screens; }
+    LMApplications& applications() override { return *m_applications; }
     LMFakeHotKeys& hotKeys() override { return m_hotKeys; }
-    LMPermission checkPermission() override;
+    LMPermission checkPermission() override { return m_world.permission; }
     QList<LMCapability> capabilities() const override;
-    QString windowManagerName() const override;
+    QString windowManagerName() const override { return QStringLiteral("Fake 1.0"); }
     bool hasSystemTray() override { return false; }
     LMAppearance appearance() override { return {}; }
 
     // --- for tests ----------------------------------------------------------------------------
     /// Everything there is; change it freely.
     LMFakeWorld& world() { return m_world; }
-    LMEventLog& log() { return m_world.log; }
+    QStringList& log() { return m_world.log; }
 
-    /// Starts an application. Without a name it gets the identifier for a name, without process
-    /// identifiers one that is new. It counts as running from its first window on. Answers the
-    /// process identifier that stands for it.
-    qint64 addApplication(const QString& bundleIdentifier, const QString& localizedName = {},
-                          const QList<qint64>& processIdentifiers = {},
-                          LMActivationPolicy policy = LMActivationPolicy::Regular);
+    /// Starts an application. Without a name it gets the identifier for a name. It counts as
+    /// running from its first window on.
+    void addApplication(const QString& bundleIdentifier, const QString& localizedName = {},
+                        LMActivationPolicy policy = LMActivationPolicy::Regular);
     /// Ends it and closes its windows.
     void removeApplication(const QString& bundleIdentifier);
 
@@ -70,18 +65,16 @@ public:
 
     /// A screen for each rectangle in global display coordinates, the main one first. Says nothing.
     void setScreens(const QList<QRectF>& displayBounds);
-    void announceScreenChange() { Q_EMIT m_screens.screenParametersChanged(); }
-
-    /// Breaks the connection: lists are empty from now on and calls fail.
-    void loseConnection(const QString& reason);
+    void announceScreenChange() { Q_EMIT m_screens->screenParametersChanged(); }
 
 private:
     LMFakeWorld m_world;
-    LMFakeAccessibility m_accessibility;
-    LMFakeWindowServer m_windowServer;
-    LMFakeWindowStates m_windowStates;
-    LMFakeScreens m_screens;
-    LMFakeApplications m_applications;
+    LMFakeAccessibility m_accessibility{m_world};
+    std::unique_ptr<LMWindowServer> m_windowServer = LMMakeFakeWindowServer(m_world);
+    std::unique_ptr<LMWindowStates> m_windowStates =
+        LMMakeFakeWindowStates(m_world, m_accessibility);
+    std::unique_ptr<LMScreens> m_screens = LMMakeFakeScreens(m_world);
+    std::unique_ptr<LMApplications> m_applications = LMMakeFakeApplications(m_world);
     LMFakeHotKeys m_hotKeys;
     quint32 m_lastWindowNumber = 0;
     qint64 m_lastProcessIdentifier = 1000;

@@ -1,36 +1,29 @@
 // SPDX-License-Identifier: MIT
-#include "support/LMFakeScreens.h"
+#include "support/LMFakeServices.h"
 
 #include <algorithm>
-#include <map>
 
 namespace {
 
-class FakeConfiguration final : public LMDisplayConfiguration {
+class LMFakeConfiguration final : public LMDisplayConfiguration {
 public:
-    FakeConfiguration(LMFakeScreens& screens, LMFakeWorld& world)
+    LMFakeConfiguration(LMScreens& screens, LMFakeWorld& world)
         : m_screens(screens), m_world(world) {}
 
     LMPlatformStatus configureDisplayOrigin(quint32 displayID, qint32 x, qint32 y) override {
-        if (!std::ranges::count(m_world.screens, displayID, &LMScreen::displayID))
+        const auto screen = std::ranges::find(m_wanted, displayID, &LMScreen::displayID);
+        if (screen == m_wanted.end())
             return LMPlatformStatus::failure(LMPlatformError::InvalidElement);
-        m_origins[displayID] = QPoint(x, y);
+        screen->displayBounds.moveTopLeft(QPointF(x, y));
+        m_events.append(u"arrange %1 %2,%3"_qs.arg(displayID).arg(x).arg(y));
         return LMPlatformStatus::success();
     }
-
     LMPlatformStatus completePermanently() override {
-        if (!m_world.isConnected || !m_world.completesDisplayConfiguration)
+        if (!m_world.completesDisplayConfiguration)
             return LMPlatformStatus::failure(LMPlatformError::Failure);
-        QList<LMScreen> screens = m_world.screens;
-        for (LMScreen& screen : screens) {
-            if (!m_origins.contains(screen.displayID))
-                continue;
-            const QPoint origin = m_origins[screen.displayID];
-            screen.displayBounds.moveTopLeft(origin);
-            m_world.log.add(
-                u"arrange %1 %2,%3"_qs.arg(screen.displayID).arg(origin.x()).arg(origin.y()));
-        }
-        m_screens.setScreens(screens);
+        m_events.sort(); // By screen, in whichever order they were given.
+        m_world.log.append(m_events);
+        m_world.setScreens(m_wanted);
         // As on a real desktop, where the change comes to rest later.
         QMetaObject::invokeMethod(&m_screens, &LMScreens::screenParametersChanged,
                                   Qt::QueuedConnection);
@@ -38,39 +31,35 @@ public:
     }
 
 private:
-    LMFakeScreens& m_screens;
+    LMScreens& m_screens;
     LMFakeWorld& m_world;
-    std::map<quint32, QPoint> m_origins;
+    QList<LMScreen> m_wanted = m_world.screens;
+    QStringList m_events;
+};
+
+class LMFakeScreens final : public LMScreens {
+public:
+    explicit LMFakeScreens(LMFakeWorld& world) : m_world(world) {}
+
+    QList<LMScreen> screens() override { return m_world.screens; }
+    bool canArrangeDisplays() const override { return m_world.canArrangeDisplays; }
+    std::unique_ptr<LMDisplayConfiguration> beginDisplayConfiguration() override {
+        if (!m_world.canArrangeDisplays || !m_world.beginsDisplayConfiguration)
+            return nullptr;
+        return std::make_unique<LMFakeConfiguration>(*this, m_world);
+    }
+    QList<QStringList> spacesByMonitor() override {
+        const QList<QStringList> oneEach(m_world.screens.size(), {QStringLiteral("1")});
+        return m_world.spaces.isEmpty() ? oneEach : m_world.spaces;
+    }
+    bool screensHaveSeparateSpaces() const override { return m_world.screensHaveSeparateSpaces; }
+
+private:
+    LMFakeWorld& m_world;
 };
 
 } // namespace
 
-QList<LMScreen> LMFakeScreens::screens() {
-    return m_world.isConnected ? m_world.screens : QList<LMScreen>();
-}
-
-std::unique_ptr<LMDisplayConfiguration> LMFakeScreens::beginDisplayConfiguration() {
-    if (!m_world.isConnected || !m_world.canArrangeDisplays || !m_world.beginsDisplayConfiguration)
-        return nullptr;
-    return std::make_unique<FakeConfiguration>(*this, m_world);
-}
-
-QList<QStringList> LMFakeScreens::spacesByMonitor() {
-    const QList<QStringList> oneEach(m_world.screens.size(), {QStringLiteral("1")});
-    return m_world.spaces.isEmpty() ? oneEach : m_world.spaces;
-}
-
-void LMFakeScreens::setScreens(const QList<LMScreen>& screens) {
-    m_world.screens = screens;
-    const QRectF main = screens.isEmpty() ? QRectF() : screens.first().displayBounds;
-    quint32 number = 0;
-    for (LMScreen& screen : m_world.screens) {
-        QRectF& bounds = screen.displayBounds;
-        bounds.translate(-main.topLeft());
-        screen.visibleFrame = bounds;
-        screen.frame = QRectF(QPointF(bounds.x(), main.height() - bounds.bottom()), bounds.size());
-        ++number;
-        if (screen.displayID == 0)
-            screen.displayID = number;
-    }
+std::unique_ptr<LMScreens> LMMakeFakeScreens(LMFakeWorld& world) {
+    return std::make_unique<LMFakeScreens>(world);
 }

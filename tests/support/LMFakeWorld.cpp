@@ -11,7 +11,7 @@ LMFakeApplication* LMFakeWorld::application(const QString& bundleIdentifier) {
 
 LMFakeApplication* LMFakeWorld::application(qint64 processIdentifier) {
     const auto found = std::ranges::find_if(applications, [&](const auto& application) {
-        return application.processIdentifiers.contains(processIdentifier);
+        return application.processIdentifier == processIdentifier;
     });
     return found != applications.end() ? &*found : nullptr;
 }
@@ -32,14 +32,30 @@ void LMFakeWorld::raise(quint32 number) {
 void LMFakeWorld::removeWindow(quint32 number) {
     windows.remove(number);
     stacking.removeOne(number);
-    if (focusedWindow == number)
-        focusFrontWindow();
+    keepFocusInSight();
 }
 
-void LMFakeWorld::focusFrontWindow() {
-    const auto front = std::ranges::find_if(
-        stacking, [this](quint32 number) { return isInSight(windows[number]); });
+void LMFakeWorld::keepFocusInSight() {
+    const auto isSeen = [this](quint32 number) { return isInSight(windows[number]); };
+    if (!focusedWindow || (windows.contains(*focusedWindow) && isSeen(*focusedWindow)))
+        return;
+    const auto front = std::ranges::find_if(stacking, isSeen);
     focusedWindow = front != stacking.end() ? std::optional(*front) : std::nullopt;
+}
+
+void LMFakeWorld::setScreens(const QList<LMScreen>& newScreens) {
+    screens = newScreens;
+    const QRectF main = screens.isEmpty() ? QRectF() : screens.first().displayBounds;
+    quint32 number = 0;
+    for (LMScreen& screen : screens) {
+        QRectF& bounds = screen.displayBounds;
+        bounds.translate(-main.topLeft());
+        screen.visibleFrame = bounds;
+        screen.frame = QRectF(QPointF(bounds.x(), main.height() - bounds.bottom()), bounds.size());
+        ++number;
+        if (screen.displayID == 0)
+            screen.displayID = number;
+    }
 }
 
 bool LMFakeWorld::isInSight(const LMFakeWindow& window) const {

@@ -3,7 +3,6 @@
 
 #include "Platform/LMApplications.h"
 #include "Platform/LMDesktop.h"
-#include "support/LMEventLog.h"
 
 #include <QHash>
 #include <QMap>
@@ -35,7 +34,6 @@ struct LMFakeWindow {
     bool hasImmutablePosition = false;
     bool hasImmutableSize = false;
     int ignoredSizeChanges = 0;    ///< So many requests for a size succeed without effect.
-    QSizeF sizeIncrement{1, 1};    ///< Sizes are rounded down to whole increments.
     int readsBeforeVanishing = -1; ///< The window is gone after so many reads; below 0: stays.
     bool neverAnswers = false;
 
@@ -46,7 +44,7 @@ struct LMFakeWindow {
 struct LMFakeApplication {
     QString bundleIdentifier;
     QString localizedName;
-    QList<qint64> processIdentifiers; ///< The oldest first.
+    qint64 processIdentifier;
     LMActivationPolicy activationPolicy = LMActivationPolicy::Regular;
     QList<quint32> minimizedByHiding{}; ///< Window numbers.
 };
@@ -74,9 +72,13 @@ struct LMFakeWorld {
 
     QString fileManagerIdentifier = QStringLiteral("com.apple.finder");
     LMPermission permission{true, {}};
-    bool isConnected = true;
     int roundTrips = 0; ///< Reads that were not answered from memory; a batch counts as one.
-    LMEventLog log;
+    /// What was done and, by the clock, how long was slept, in order, one line each:
+    ///     position "TITLE" X,Y      size "TITLE" W,H    (every request, also one that is refused)
+    ///     activate ID    hide ID    unhide ID           (ID: the application's identifier)
+    ///     state "TITLE" minimized desktop=2             stack "FRONT" "BACK"
+    ///     arrange DISPLAYID X,Y     sleep MICROSECONDS
+    QStringList log;
 
     LMFakeApplication* application(const QString& bundleIdentifier);
     LMFakeApplication* application(qint64 processIdentifier);
@@ -84,8 +86,11 @@ struct LMFakeWorld {
     QList<quint32> windowsOf(const LMFakeApplication& application) const;
     void raise(quint32 number);
     void removeWindow(quint32 number);
-    /// Gives the focus to the front window that is on screen.
-    void focusFrontWindow();
+    /// Gives the focus to the front window that is in sight unless one has it.
+    void keepFocusInSight();
+    /// Replaces the screens, the main one first, and says nothing. What the rectangles in
+    /// displayBounds imply is filled in; screens without an identifier get one.
+    void setScreens(const QList<LMScreen>& newScreens);
 
     /// Neither minimised nor on another virtual desktop.
     bool isInSight(const LMFakeWindow& window) const;

@@ -22,7 +22,7 @@
 /// that goes with it, a clock that stands still, and the messages logged.
 struct LMTestEnvironment {
     /// The desktop, and the log that the clock writes its sleeps to, must outlive this.
-    explicit LMTestEnvironment(LMDesktop& desktopIn, LMEventLog* log = nullptr)
+    explicit LMTestEnvironment(LMDesktop& desktopIn, QStringList* log = nullptr)
         : desktop(desktopIn), clock(log) {}
 
     QString path(const QString& name) const { return directory.filePath(name); }

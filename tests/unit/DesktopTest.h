@@ -19,7 +19,7 @@ protected:
     QList<LMElement> launch(const QString& identifier,
                             const QList<LMFakeWindow>& windows = {LMFakeWindow()},
                             LMActivationPolicy policy = LMActivationPolicy::Regular) {
-        desktop.addApplication(identifier, {}, {}, policy);
+        desktop.addApplication(identifier, {}, policy);
         QList<LMElement> elements;
         for (const LMFakeWindow& window : windows)
             elements.append(desktop.addWindow(identifier, window));
@@ -27,17 +27,13 @@ protected:
     }
 
     void setHidden(const QString& identifier, bool isHidden) {
-        const qint64 process = desktop.world().application(identifier)->processIdentifiers[0];
+        const qint64 process = desktop.world().application(identifier)->processIdentifier;
         isHidden ? desktop.applications().hide(process) : desktop.applications().unhide(process);
         desktop.log().clear();
     }
 
     /// What happened since the last call.
-    QString events() {
-        const QString result = desktop.log().events().join(u", "_s);
-        desktop.log().clear();
-        return result;
-    }
+    QString events() { return std::exchange(desktop.log(), {}).join(u", "_s); }
 
     LMFakeDesktop desktop;
     LMTestEnvironment test{desktop, &desktop.log()};

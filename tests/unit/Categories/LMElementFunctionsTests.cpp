@@ -22,7 +22,7 @@ class ElementFunctions : public DesktopTest {
 protected:
     LMFakeAccessibility& accessibility = desktop.accessibility();
     LMElement window = launch(u"org.editor"_s, {{u"Draft"_s, {10, 20, 800, 600}}})[0];
-    qint64 process = desktop.world().applications[0].processIdentifiers[0];
+    qint64 process = desktop.world().applications[0].processIdentifier;
     LMElement application{LMElement::Kind::Application, process, 0};
 };
 
@@ -65,7 +65,7 @@ TEST_F(ElementFunctions, EveryFailureHasItsReason) {
     EXPECT_EQ(reasonOf(everything), QString());
     accessibility.answer(window, A::Position, u"nonsense"_s);
     EXPECT_EQ(reasonOf(everything), u"Conversion of position attribute value failed."_s);
-    accessibility.failCreateApplication(LMPlatformError::Failure);
+    accessibility.fail({}, CreateApplication, QLatin1String(), LMPlatformError::Failure);
     EXPECT_EQ(reasonOf(everything), u"Creation of application UIElement failed."_s);
     desktop.window(window).neverAnswers = true;
     EXPECT_FALSE(LMElementHasGrowArea(accessibility, window)) << "presence tests never raise";

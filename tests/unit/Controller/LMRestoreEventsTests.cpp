@@ -26,7 +26,7 @@ protected:
         userInterface.calls.clear();
     }
     bool isBack() { return desktop.window(draft).frame == QRectF(10, 20, 300, 200); }
-    qsizetype pauses() { return desktop.log().events().filter(u"sleep"_s).size(); }
+    qsizetype pauses() { return desktop.log().filter(u"sleep"_s).size(); }
     void changeDisplays(const QList<QRectF>& bounds) {
         desktop.setScreens(bounds);
         desktop.announceScreenChange();
@@ -103,7 +103,7 @@ TEST_F(RestoreEventsTest, WhatArrivesDuringAnAlertWaitsOrIsRefused) {
         launch(editor);
         launch(editor);
         QCoreApplication::processEvents();
-        EXPECT_TRUE(desktop.log().events().isEmpty());
+        EXPECT_TRUE(desktop.log().isEmpty());
         EXPECT_TRUE(userInterface.calls.isEmpty());
     };
     EXPECT_FALSE(delegate.userCommands().perform(LMMenuCommand::StoreAllWindows).isDone);

@@ -32,7 +32,7 @@ protected:
     S now(const LMElement& element) { return desktop.window(element).state; }
     /// What was done besides setting frames.
     QStringList changes() {
-        QStringList result = desktop.log().events();
+        QStringList result = desktop.log();
         result.removeIf([](const QString& event) {
             return !event.startsWith(u"state"_s) && !event.startsWith(u"stack"_s);
         });

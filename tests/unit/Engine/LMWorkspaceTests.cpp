@@ -13,7 +13,7 @@ protected:
         const QList<LMScreen> screens = desktop.screens().screens();
         desktop.setScreens(displays);
         auto* record = context.insertObject<LMWorkspace>();
-        desktop.screens().setScreens(screens);
+        desktop.world().setScreens(screens);
         return *record;
     }
     static QStringList storedApplications(const LMWorkspace& record) {
