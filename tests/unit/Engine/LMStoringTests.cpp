@@ -25,10 +25,8 @@ TEST_F(StoringTest, ShowsTheApplicationAndPutsItBack) {
 TEST_F(StoringTest, StoresEveryWindowAnew) {
     LMApplication& application = store({{u"A"_s, left}, {u"B"_s, right}});
     application.removeAllWindows();
-    EXPECT_TRUE(application.windows().isEmpty() && application.windowsOrdering().isEmpty());
     application.storeFloatingWindows();
     application.storeFloatingWindows();
-    EXPECT_EQ(events(), u"activate app, sleep 2500, activate app, sleep 2500"_s);
     EXPECT_EQ(titles(application.orderedWindows()), u"A, B"_s);
     application.storeWindows();
     EXPECT_EQ(titles(application.orderedWindows()), u"A, B, A, B"_s);
@@ -39,7 +37,6 @@ TEST_F(StoringTest, StoresEveryWindowAnew) {
     application.storeWindows();
     application.storeFloatingWindows();
     EXPECT_EQ(events(), QString());
-    EXPECT_EQ(test.messages.count(u"app: Not Launched"_s), 1);
 }
 
 TEST_F(StoringTest, ReplacesTheFocusedWindowAndPutsItFirst) {
@@ -51,7 +48,6 @@ TEST_F(StoringTest, ReplacesTheFocusedWindowAndPutsItFirst) {
     application.storeFocusedWindow(LMWindow::focusedWindow(context));
     EXPECT_EQ(titles(application.orderedWindows()), u"B, A"_s);
     EXPECT_EQ(application.orderedWindows()[0]->frame(), right);
-    EXPECT_EQ(pictures(), 0);
 
     defaults.setObject(Keys::CreateScreenshotsWhenStoringWindows, true);
     desktop.window(focused).title = u"C"_s;
@@ -71,14 +67,12 @@ TEST_F(StoringTest, LinksAWindowToTheStoredWindowChosen) {
     application.addMatchingWindow(live(elements[1]), all[1]);
     EXPECT_EQ(events(), u"position \"B\" 400,0, sleep 1000000, size \"B\" 350,250"_s);
     EXPECT_EQ(application.orderedWindows(), all);
-    EXPECT_EQ(pictures(), 0);
 
     // Another: its record leaves the former stored window, which goes when that was its last one.
     LMWindow* const window = live(elements[0]);
     application.addMatchingWindow(window, all[1]);
     EXPECT_EQ(application.orderedWindows(), std::vector<LMStoredWindow*>{all[1]});
     EXPECT_EQ(all[1]->orderedMatchingWindows().back(), window);
-    EXPECT_EQ(all[1]->matchingWindows().count(), 2U);
     EXPECT_EQ(frame(elements[0]), right);
     EXPECT_EQ(pictures(), 1) << "pictured whether or not pictures are switched on";
     EXPECT_TRUE(shows(*window, elements[0]));
