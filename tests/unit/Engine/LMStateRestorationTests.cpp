@@ -102,9 +102,7 @@ TEST_F(StateRestorationTest, AWindowWhoseOwnFrameNobodyKnowsStaysOnItsMonitor) {
     storeAs(maximized, {1600, 50, 99, 99}, {{.title = u"A"_s, .tellsNormalFrame = false}});
     const std::tuple<S, QRectF, QRectF> rows[] = {
         {maximized, left, {1790, 250, 300, 200}}, // Its own size, in the middle.
-        {plain, left, {1790, 250, 300, 200}},
-        {plain, onSecond, onSecond}, // It stands there anyway.
-        {maximized, {0, 0, 1400, 200}, {1565, 250, 750, 200}},
+        {plain, onSecond, onSecond},              // It stands there anyway.
         {plain, {0, 0, 1400, 200}, {1565, 250, 750, 200}},
     };
     for (const auto& [before, own, expected] : rows) {
