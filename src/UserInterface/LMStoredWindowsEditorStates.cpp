@@ -49,6 +49,6 @@ void LMStoredWindowsEditor::setState(const LMEditedState& wanted) {
     const auto* window =
         static_cast<LMStoredWindow*>(m_store.managedObjectContext().existingObjectWithID(
             m_window->windowsTableView()->selectedRecord()));
-    if (window)
+    if (window && wanted != LMEditedState{window->state(), window->frame()})
         m_undoStack.push(new StateChange(*this, *window, wanted));
 }

@@ -59,7 +59,8 @@ void setDesktop(LMWindowState& state, std::optional<int> desktop, const QString&
 
 LMStateMenu::LMStateMenu(LMWindowStates& windowStates, std::function<LMEditedState()> current,
                          QWidget* parent)
-    : QMenu(parent), m_windowStates(windowStates), m_current(std::move(current)) {
+    : QMenu(parent), m_windowStates(windowStates), m_current(std::move(current)),
+      m_desktops(new QActionGroup(this)) {
     connect(this, &QMenu::aboutToShow, this, &LMStateMenu::fill);
 }
 
@@ -106,12 +107,11 @@ void LMStateMenu::fill() {
 void LMStateMenu::addDesktops() {
     const LMEditedState current = m_current();
     const LMWindowState state = current.state ? current.state->window : LMWindowState();
-    auto* group = new QActionGroup(this);
     const auto add = [&](const QString& text, std::optional<int> desktop, const QString& name,
                          bool isOn) {
         QAction* action = addAction(LMEscapedAmpersands(text));
         action->setCheckable(true);
-        action->setActionGroup(group);
+        action->setActionGroup(m_desktops);
         action->setChecked(isOn);
         connect(action, &QAction::triggered, this, [this, desktop, name] {
             LMEditedState wanted = m_current();

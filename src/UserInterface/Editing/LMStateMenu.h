@@ -9,6 +9,7 @@
 #include <functional>
 
 class LMWindowStates;
+class QActionGroup;
 
 /// What the user can say of a stored window: the state to restore and the frame that goes with it.
 struct LMEditedState {
@@ -38,4 +39,5 @@ private:
 
     LMWindowStates& m_windowStates;
     std::function<LMEditedState()> m_current;
+    QActionGroup* m_desktops;
 };
