@@ -32,10 +32,11 @@ constexpr QLatin1String desktopNameKey("desktopName");
 constexpr QLatin1String normalFrameKey("normalFrame");
 constexpr QLatin1String stackingPositionKey("stackingPosition");
 
-/// Absent for anything but a whole number from 0 on.
+/// Absent for anything but a whole number from 0 on that people can count to.
 std::optional<int> ordinal(const QJsonValue& value) {
+    constexpr int largest = 1'000'000;
     const int number = value.toInt(-1);
-    return number < 0 ? std::nullopt : std::optional(number);
+    return number < 0 || number > largest ? std::nullopt : std::optional(number);
 }
 
 void setNamedState(LMWindowState& state, const QString& name) {

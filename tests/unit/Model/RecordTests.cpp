@@ -20,9 +20,10 @@ TEST_F(ModelTest, AStateIsKeptAsText) {
               "\"states\":[\"maximized\"]}"_s);
     for (const QString& text : {QString(), u""_s, u"["_s, u"[]"_s, u"7"_s})
         EXPECT_EQ(LMStateFromString(text), std::nullopt);
-    for (const QString& text : {u"{}"_s, u"{\"states\":7,\"desktop\":-1,\"normalFrame\":[]}"_s,
-                                u"{\"normalFrame\":\"{{9, 9}, {0, x}}\"}"_s,
-                                u"{\"states\":[\"new\",{}],\"desktop\":1.5,\"x\":1}"_s})
+    for (const QString& text :
+         {u"{}"_s, u"{\"states\":7,\"desktop\":-1,\"normalFrame\":[]}"_s,
+          u"{\"normalFrame\":\"{{9, 9}, {0, x}}\"}"_s,
+          u"{\"states\":[\"new\",{}],\"desktop\":1.5,\"x\":1}"_s, u"{\"desktop\":2147483647}"_s})
         EXPECT_EQ(LMStateFromString(text), LMStoredState()) << text.toStdString();
 }
 
