@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // How the editor's window is put together.
-#include "Model/LMAction.h"
 #include "Platform/LMDesktop.h"
 #include "Platform/LMEnvironment.h"
 #include "UserInterface/Editing/LMActionsModel.h"
 #include "UserInterface/Editing/LMApplicationsModel.h"
+#include "UserInterface/Editing/LMPassingMenu.h"
 #include "UserInterface/Editing/LMRegularExpressionValidationFormatter.h"
 #include "UserInterface/Editing/LMScreenshotView.h"
 #include "UserInterface/Editing/LMScriptEditor.h"
@@ -15,8 +15,6 @@
 #include "Utilities/LMFormat.h"
 
 #include <QAction>
-#include <QCloseEvent>
-#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -76,28 +74,6 @@ QSplitter* makeSplitter(Qt::Orientation orientation, QList<QWidget*> panes, QLis
         splitter->setStretchFactor(index, sizes[index]);
     return splitter;
 }
-
-/// Keys that follow fast on the one that chooses an entry are still sent to the menu, which is
-/// closed by then: they are meant for what the entry has opened.
-class PassingMenu final : public QMenu {
-public:
-    using QMenu::QMenu;
-
-protected:
-    /// Closing destroys the window of the platform, and the toolkit drops what is sent to it.
-    void closeEvent(QCloseEvent* event) override {
-        hide();
-        event->ignore();
-    }
-
-    bool event(QEvent* event) override {
-        const bool isKey = event->type() == QEvent::KeyPress ||
-                           event->type() == QEvent::KeyRelease ||
-                           event->type() == QEvent::ShortcutOverride;
-        QWidget* next = isKey && !isVisible() ? parentWidget()->window()->focusWidget() : nullptr;
-        return next ? QCoreApplication::sendEvent(next, event) : QMenu::event(event);
-    }
-};
 
 } // namespace
 
@@ -178,14 +154,6 @@ void LMStoredWindowsEditorWindow::connectTable(LMTableView* table) {
                 &LMStoredWindowsEditorWindow::editingEnded);
 }
 
-QIcon LMStoredWindowsEditorWindow::appleScriptActionIcon() {
-    return QPixmap::fromImage(LMAction::iconForScripts(QStringLiteral("AppleScript")));
-}
-
-QIcon LMStoredWindowsEditorWindow::shellScriptActionIcon() {
-    return QPixmap::fromImage(LMAction::iconForScripts(QStringLiteral("Shell Script")));
-}
-
 // --- buttons ------------------------------------------------------------------------------------
 
 QPushButton* LMStoredWindowsEditorWindow::makeRemoveButton(const char* text, const char* name,
@@ -219,7 +187,7 @@ void LMStoredWindowsEditorWindow::makeButtons(QUndoStack& undoStack) {
 
     m_addActionButton = new QPushButton(LMLocalized("&Add"), this);
     m_addActionButton->setAccessibleName(LMLocalized("Add Action"));
-    auto* menu = new PassingMenu(m_addActionButton);
+    auto* menu = new LMPassingMenu(m_addActionButton);
     const auto add = [this, menu](const QIcon& icon, const QString& text, int tag) {
         connect(menu->addAction(icon, text), &QAction::triggered, this,
                 [this, tag] { Q_EMIT addActionRequested(tag); });

@@ -35,6 +35,14 @@ LMStoredWindowsEditorWindow::~LMStoredWindowsEditorWindow() {
         part->disconnect(this);
 }
 
+QIcon LMStoredWindowsEditorWindow::appleScriptActionIcon() {
+    return QPixmap::fromImage(LMAction::iconForScripts(QStringLiteral("AppleScript")));
+}
+
+QIcon LMStoredWindowsEditorWindow::shellScriptActionIcon() {
+    return QPixmap::fromImage(LMAction::iconForScripts(QStringLiteral("Shell Script")));
+}
+
 void LMStoredWindowsEditorWindow::reload(LMWorkspace* workspace) {
     m_hasWorkspace = workspace != nullptr;
     setWindowTitle(workspace ? LMPresentableLine(workspace->name())
