@@ -5,6 +5,7 @@
 #include "Model/Store/LMObjectID.h"
 #include "UserInterface/LMStoredWindowsEditor.h"
 #include "UserInterface/LMWorkspaceListModel.h"
+#include "UserInterface/LMWorkspaceOrder.h"
 
 #include <QObject>
 

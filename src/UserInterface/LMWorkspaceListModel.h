@@ -4,9 +4,7 @@
 #include "Model/Store/LMObjectID.h"
 
 #include <QAbstractTableModel>
-#include <QCollator>
 #include <QList>
-#include <QSortFilterProxyModel>
 
 class LMStoredWindowsStore;
 class LMWorkspace;
@@ -67,19 +65,4 @@ private:
     LMEnvironment& m_environment;
     LMStoredWindowsStore& m_store;
     QList<Row> m_rows;
-};
-
-/// The same in the order of a column, numbers within texts by their value. What is equal there is
-/// ordered by name, then by age.
-class LMWorkspaceOrder final : public QSortFilterProxyModel {
-public:
-    explicit LMWorkspaceOrder(LMWorkspaceListModel& workspaces);
-
-protected:
-    bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
-
-private:
-    int compare(const QModelIndex& left, const QModelIndex& right) const;
-
-    QCollator m_collator;
 };
