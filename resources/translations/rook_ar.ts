@@ -1765,6 +1765,136 @@ Please visit the Rook web site and download the latest version of Rook.</source>
         <translation>الشاشات</translation>
     </message>
     <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Start Rook at &amp;login</source>
+        <translation>بدء Rook عند تسجيل الدخول (&amp;L)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Startup:</source>
+        <translation>بدء التشغيل:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>When the &amp;displays change</source>
+        <translation>عند تغيّر الشاشات (&amp;D)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore windows when the displays change</source>
+        <translation>استعادة النوافذ عند تغيّر الشاشات</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>When an &amp;application launches, after</source>
+        <translation>عند بدء تطبيق، بعد (&amp;A)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore an application’s windows when it launches</source>
+        <translation>استعادة نوافذ التطبيق عند بدئه</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Seconds to wait after an application’s launch</source>
+        <translation>ثواني الانتظار بعد بدء التطبيق</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source> s</source>
+        <translation> ث</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore windows:</source>
+        <translation>استعادة النوافذ:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Whether they are &amp;maximized, minimized and so on</source>
+        <translation>ما إذا كانت مكبّرة أو مصغّرة ونحو ذلك (&amp;M)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore whether windows are maximized, minimized and so on</source>
+        <translation>استعادة ما إذا كانت النوافذ مكبّرة أو مصغّرة ونحو ذلك</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Which &amp;virtual desktop they are on</source>
+        <translation>سطح المكتب الافتراضي الذي هي عليه (&amp;V)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore which virtual desktop windows are on</source>
+        <translation>استعادة سطح المكتب الافتراضي للنوافذ</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Which windows are &amp;in front</source>
+        <translation>النوافذ التي في الأمام (&amp;I)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore which windows are in front of others</source>
+        <translation>استعادة النوافذ التي أمام غيرها</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore also:</source>
+        <translation>استعادة أيضًا:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Take &amp;pictures of windows</source>
+        <translation>التقاط صور للنوافذ (&amp;P)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Take pictures of windows when storing them</source>
+        <translation>التقاط صور للنوافذ عند حفظها</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Store windows:</source>
+        <translation>حفظ النوافذ:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>&amp;Hide the menu icon</source>
+        <translation>إخفاء أيقونة القائمة (&amp;H)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Menu icon:</source>
+        <translation>أيقونة القائمة:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Check for &amp;updates automatically</source>
+        <translation>التحقق من التحديثات تلقائيًا (&amp;U)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Updates:</source>
+        <translation>التحديثات:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Reset &amp;Warnings</source>
+        <translation>إعادة تعيين التحذيرات (&amp;W)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Shows all messages again that were switched off</source>
+        <translation>يعرض مجددًا كل الرسائل التي أُوقفت</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Warnings:</source>
+        <translation>التحذيرات:</translation>
+    </message>
+    <message>
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
         <source>Rook’s menu icon cannot be hidden until the “Display Menu” hot key is set.</source>
         <translation>لا يمكن إخفاء أيقونة قائمة Rook قبل تعيين الاختصار «عرض القائمة».</translation>
@@ -1773,136 +1903,6 @@ Please visit the Rook web site and download the latest version of Rook.</source>
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
         <source>General</source>
         <translation>عام</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Start Rook at &amp;login</source>
-        <translation>بدء Rook عند تسجيل الدخول (&amp;L)</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Startup:</source>
-        <translation>بدء التشغيل:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>When the &amp;displays change</source>
-        <translation>عند تغيّر الشاشات (&amp;D)</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore windows when the displays change</source>
-        <translation>استعادة النوافذ عند تغيّر الشاشات</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>When an &amp;application launches, after</source>
-        <translation>عند بدء تطبيق، بعد (&amp;A)</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore an application’s windows when it launches</source>
-        <translation>استعادة نوافذ التطبيق عند بدئه</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Seconds to wait after an application’s launch</source>
-        <translation>ثواني الانتظار بعد بدء التطبيق</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source> s</source>
-        <translation> ث</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore windows:</source>
-        <translation>استعادة النوافذ:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Whether they are &amp;maximized, minimized and so on</source>
-        <translation>ما إذا كانت مكبّرة أو مصغّرة ونحو ذلك (&amp;M)</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore whether windows are maximized, minimized and so on</source>
-        <translation>استعادة ما إذا كانت النوافذ مكبّرة أو مصغّرة ونحو ذلك</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Which &amp;virtual desktop they are on</source>
-        <translation>سطح المكتب الافتراضي الذي هي عليه (&amp;V)</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore which virtual desktop windows are on</source>
-        <translation>استعادة سطح المكتب الافتراضي للنوافذ</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Which windows are &amp;in front</source>
-        <translation>النوافذ التي في الأمام (&amp;I)</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore which windows are in front of others</source>
-        <translation>استعادة النوافذ التي أمام غيرها</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore also:</source>
-        <translation>استعادة أيضًا:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Take &amp;pictures of windows</source>
-        <translation>التقاط صور للنوافذ (&amp;P)</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Take pictures of windows when storing them</source>
-        <translation>التقاط صور للنوافذ عند حفظها</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Store windows:</source>
-        <translation>حفظ النوافذ:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>&amp;Hide the menu icon</source>
-        <translation>إخفاء أيقونة القائمة (&amp;H)</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Menu icon:</source>
-        <translation>أيقونة القائمة:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Check for &amp;updates automatically</source>
-        <translation>التحقق من التحديثات تلقائيًا (&amp;U)</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Updates:</source>
-        <translation>التحديثات:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Reset &amp;Warnings</source>
-        <translation>إعادة تعيين التحذيرات (&amp;W)</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Shows all messages again that were switched off</source>
-        <translation>يعرض مجددًا كل الرسائل التي أُوقفت</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Warnings:</source>
-        <translation>التحذيرات:</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>

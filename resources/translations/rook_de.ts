@@ -1765,6 +1765,136 @@ Bitte besuchen Sie die Website von Rook und laden Sie die neueste Version herunt
         <translation>Bildschirme</translation>
     </message>
     <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Start Rook at &amp;login</source>
+        <translation>Rook bei der An&amp;meldung starten</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Startup:</source>
+        <translation>Start:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>When the &amp;displays change</source>
+        <translation>Wenn sich die &amp;Bildschirme ändern</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore windows when the displays change</source>
+        <translation>Fenster wiederherstellen, wenn sich die Bildschirme ändern</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>When an &amp;application launches, after</source>
+        <translation>Wenn ein &amp;Programm startet, nach</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore an application’s windows when it launches</source>
+        <translation>Fenster eines Programms wiederherstellen, wenn es startet</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Seconds to wait after an application’s launch</source>
+        <translation>Wartezeit in Sekunden nach dem Start eines Programms</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore windows:</source>
+        <translation>Fenster wiederherstellen:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Whether they are &amp;maximized, minimized and so on</source>
+        <translation>Ob sie ma&amp;ximiert, minimiert und so weiter sind</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore whether windows are maximized, minimized and so on</source>
+        <translation>Wiederherstellen, ob Fenster maximiert, minimiert und so weiter sind</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Which &amp;virtual desktop they are on</source>
+        <translation>Auf welcher &amp;virtuellen Arbeitsfläche sie sind</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore which virtual desktop windows are on</source>
+        <translation>Wiederherstellen, auf welcher virtuellen Arbeitsfläche Fenster sind</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Which windows are &amp;in front</source>
+        <translation>Welche Fenster vo&amp;rne sind</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore which windows are in front of others</source>
+        <translation>Wiederherstellen, welche Fenster vor anderen sind</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore also:</source>
+        <translation>Auch wiederherstellen:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Take &amp;pictures of windows</source>
+        <translation>Bilder der &amp;Fenster aufnehmen</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Take pictures of windows when storing them</source>
+        <translation>Beim Speichern Bilder der Fenster aufnehmen</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Store windows:</source>
+        <translation>Fenster speichern:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>&amp;Hide the menu icon</source>
+        <translation>Menüsymbol &amp;ausblenden</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Menu icon:</source>
+        <translation>Menüsymbol:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Check for &amp;updates automatically</source>
+        <translation>Automatisch nach A&amp;ktualisierungen suchen</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Updates:</source>
+        <translation>Aktualisierungen:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Reset &amp;Warnings</source>
+        <translation>&amp;Warnungen zurücksetzen</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Shows all messages again that were switched off</source>
+        <translation>Zeigt alle abgeschalteten Meldungen wieder an</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Warnings:</source>
+        <translation>Warnungen:</translation>
+    </message>
+    <message>
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
         <source>Rook’s menu icon cannot be hidden until the “Display Menu” hot key is set.</source>
         <translation>Das Menüsymbol von Rook lässt sich erst ausblenden, wenn das Tastenkürzel „Menü anzeigen“ gesetzt ist.</translation>
@@ -1773,136 +1903,6 @@ Bitte besuchen Sie die Website von Rook und laden Sie die neueste Version herunt
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
         <source>General</source>
         <translation>Allgemein</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Start Rook at &amp;login</source>
-        <translation>Rook bei der An&amp;meldung starten</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Startup:</source>
-        <translation>Start:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>When the &amp;displays change</source>
-        <translation>Wenn sich die &amp;Bildschirme ändern</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore windows when the displays change</source>
-        <translation>Fenster wiederherstellen, wenn sich die Bildschirme ändern</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>When an &amp;application launches, after</source>
-        <translation>Wenn ein &amp;Programm startet, nach</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore an application’s windows when it launches</source>
-        <translation>Fenster eines Programms wiederherstellen, wenn es startet</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Seconds to wait after an application’s launch</source>
-        <translation>Wartezeit in Sekunden nach dem Start eines Programms</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source> s</source>
-        <translation> s</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore windows:</source>
-        <translation>Fenster wiederherstellen:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Whether they are &amp;maximized, minimized and so on</source>
-        <translation>Ob sie ma&amp;ximiert, minimiert und so weiter sind</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore whether windows are maximized, minimized and so on</source>
-        <translation>Wiederherstellen, ob Fenster maximiert, minimiert und so weiter sind</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Which &amp;virtual desktop they are on</source>
-        <translation>Auf welcher &amp;virtuellen Arbeitsfläche sie sind</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore which virtual desktop windows are on</source>
-        <translation>Wiederherstellen, auf welcher virtuellen Arbeitsfläche Fenster sind</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Which windows are &amp;in front</source>
-        <translation>Welche Fenster vo&amp;rne sind</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore which windows are in front of others</source>
-        <translation>Wiederherstellen, welche Fenster vor anderen sind</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore also:</source>
-        <translation>Auch wiederherstellen:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Take &amp;pictures of windows</source>
-        <translation>Bilder der &amp;Fenster aufnehmen</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Take pictures of windows when storing them</source>
-        <translation>Beim Speichern Bilder der Fenster aufnehmen</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Store windows:</source>
-        <translation>Fenster speichern:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>&amp;Hide the menu icon</source>
-        <translation>Menüsymbol &amp;ausblenden</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Menu icon:</source>
-        <translation>Menüsymbol:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Check for &amp;updates automatically</source>
-        <translation>Automatisch nach A&amp;ktualisierungen suchen</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Updates:</source>
-        <translation>Aktualisierungen:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Reset &amp;Warnings</source>
-        <translation>&amp;Warnungen zurücksetzen</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Shows all messages again that were switched off</source>
-        <translation>Zeigt alle abgeschalteten Meldungen wieder an</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Warnings:</source>
-        <translation>Warnungen:</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>

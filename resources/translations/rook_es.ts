@@ -1765,6 +1765,136 @@ Visite el sitio web de Rook y descargue la última versión.</translation>
         <translation>Pantallas</translation>
     </message>
     <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Start Rook at &amp;login</source>
+        <translation>&amp;Iniciar Rook al comenzar la sesión</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Startup:</source>
+        <translation>Inicio:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>When the &amp;displays change</source>
+        <translation>Cuando cambien las &amp;pantallas</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore windows when the displays change</source>
+        <translation>Restaurar las ventanas cuando cambien las pantallas</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>When an &amp;application launches, after</source>
+        <translation>Al iniciarse una &amp;aplicación, tras</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore an application’s windows when it launches</source>
+        <translation>Restaurar las ventanas de una aplicación cuando se inicie</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Seconds to wait after an application’s launch</source>
+        <translation>Segundos de espera tras iniciarse una aplicación</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore windows:</source>
+        <translation>Restaurar ventanas:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Whether they are &amp;maximized, minimized and so on</source>
+        <translation>Si están &amp;maximizadas, minimizadas, etcétera</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore whether windows are maximized, minimized and so on</source>
+        <translation>Restaurar si las ventanas están maximizadas, minimizadas, etcétera</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Which &amp;virtual desktop they are on</source>
+        <translation>En qué escritorio &amp;virtual están</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore which virtual desktop windows are on</source>
+        <translation>Restaurar en qué escritorio virtual están las ventanas</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Which windows are &amp;in front</source>
+        <translation>Qué ventanas están de&amp;lante</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore which windows are in front of others</source>
+        <translation>Restaurar qué ventanas están delante de otras</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore also:</source>
+        <translation>Restaurar también:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Take &amp;pictures of windows</source>
+        <translation>Tomar &amp;capturas de las ventanas</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Take pictures of windows when storing them</source>
+        <translation>Tomar capturas de las ventanas al guardarlas</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Store windows:</source>
+        <translation>Guardar ventanas:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>&amp;Hide the menu icon</source>
+        <translation>&amp;Ocultar el icono del menú</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Menu icon:</source>
+        <translation>Icono del menú:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Check for &amp;updates automatically</source>
+        <translation>&amp;Buscar actualizaciones automáticamente</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Updates:</source>
+        <translation>Actualizaciones:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Reset &amp;Warnings</source>
+        <translation>&amp;Restablecer avisos</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Shows all messages again that were switched off</source>
+        <translation>Vuelve a mostrar todos los mensajes desactivados</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Warnings:</source>
+        <translation>Avisos:</translation>
+    </message>
+    <message>
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
         <source>Rook’s menu icon cannot be hidden until the “Display Menu” hot key is set.</source>
         <translation>El icono del menú de Rook solo puede ocultarse si el atajo «Mostrar el menú» está definido.</translation>
@@ -1773,136 +1903,6 @@ Visite el sitio web de Rook y descargue la última versión.</translation>
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
         <source>General</source>
         <translation>General</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Start Rook at &amp;login</source>
-        <translation>&amp;Iniciar Rook al comenzar la sesión</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Startup:</source>
-        <translation>Inicio:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>When the &amp;displays change</source>
-        <translation>Cuando cambien las &amp;pantallas</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore windows when the displays change</source>
-        <translation>Restaurar las ventanas cuando cambien las pantallas</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>When an &amp;application launches, after</source>
-        <translation>Al iniciarse una &amp;aplicación, tras</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore an application’s windows when it launches</source>
-        <translation>Restaurar las ventanas de una aplicación cuando se inicie</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Seconds to wait after an application’s launch</source>
-        <translation>Segundos de espera tras iniciarse una aplicación</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source> s</source>
-        <translation> s</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore windows:</source>
-        <translation>Restaurar ventanas:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Whether they are &amp;maximized, minimized and so on</source>
-        <translation>Si están &amp;maximizadas, minimizadas, etcétera</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore whether windows are maximized, minimized and so on</source>
-        <translation>Restaurar si las ventanas están maximizadas, minimizadas, etcétera</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Which &amp;virtual desktop they are on</source>
-        <translation>En qué escritorio &amp;virtual están</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore which virtual desktop windows are on</source>
-        <translation>Restaurar en qué escritorio virtual están las ventanas</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Which windows are &amp;in front</source>
-        <translation>Qué ventanas están de&amp;lante</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore which windows are in front of others</source>
-        <translation>Restaurar qué ventanas están delante de otras</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore also:</source>
-        <translation>Restaurar también:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Take &amp;pictures of windows</source>
-        <translation>Tomar &amp;capturas de las ventanas</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Take pictures of windows when storing them</source>
-        <translation>Tomar capturas de las ventanas al guardarlas</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Store windows:</source>
-        <translation>Guardar ventanas:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>&amp;Hide the menu icon</source>
-        <translation>&amp;Ocultar el icono del menú</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Menu icon:</source>
-        <translation>Icono del menú:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Check for &amp;updates automatically</source>
-        <translation>&amp;Buscar actualizaciones automáticamente</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Updates:</source>
-        <translation>Actualizaciones:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Reset &amp;Warnings</source>
-        <translation>&amp;Restablecer avisos</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Shows all messages again that were switched off</source>
-        <translation>Vuelve a mostrar todos los mensajes desactivados</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Warnings:</source>
-        <translation>Avisos:</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>

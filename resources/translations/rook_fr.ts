@@ -1765,6 +1765,136 @@ Veuillez consulter le site web de Rook et télécharger la dernière version.</t
         <translation>Écrans</translation>
     </message>
     <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Start Rook at &amp;login</source>
+        <translation>&amp;Lancer Rook à l’ouverture de session</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Startup:</source>
+        <translation>Démarrage :</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>When the &amp;displays change</source>
+        <translation>Quand les écra&amp;ns changent</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore windows when the displays change</source>
+        <translation>Restaurer les fenêtres quand les écrans changent</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>When an &amp;application launches, after</source>
+        <translation>Quand une &amp;application démarre, après</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore an application’s windows when it launches</source>
+        <translation>Restaurer les fenêtres d’une application à son démarrage</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Seconds to wait after an application’s launch</source>
+        <translation>Secondes d’attente après le démarrage d’une application</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source> s</source>
+        <translation> s</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore windows:</source>
+        <translation>Restaurer les fenêtres :</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Whether they are &amp;maximized, minimized and so on</source>
+        <translation>Si elles sont ma&amp;ximisées, minimisées, etc.</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore whether windows are maximized, minimized and so on</source>
+        <translation>Restaurer si les fenêtres sont maximisées, minimisées, etc.</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Which &amp;virtual desktop they are on</source>
+        <translation>Sur quel &amp;bureau virtuel elles sont</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore which virtual desktop windows are on</source>
+        <translation>Restaurer le bureau virtuel des fenêtres</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Which windows are &amp;in front</source>
+        <translation>Quelles &amp;fenêtres sont devant</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore which windows are in front of others</source>
+        <translation>Restaurer quelles fenêtres sont devant les autres</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore also:</source>
+        <translation>Restaurer aussi :</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Take &amp;pictures of windows</source>
+        <translation>Prendre des &amp;captures des fenêtres</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Take pictures of windows when storing them</source>
+        <translation>Prendre des captures des fenêtres en les mémorisant</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Store windows:</source>
+        <translation>Mémoriser les fenêtres :</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>&amp;Hide the menu icon</source>
+        <translation>&amp;Masquer l’icône du menu</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Menu icon:</source>
+        <translation>Icône du menu :</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Check for &amp;updates automatically</source>
+        <translation>&amp;Rechercher automatiquement les mises à jour</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Updates:</source>
+        <translation>Mises à jour :</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Reset &amp;Warnings</source>
+        <translation>Réacti&amp;ver les avertissements</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Shows all messages again that were switched off</source>
+        <translation>Affiche de nouveau tous les messages désactivés</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Warnings:</source>
+        <translation>Avertissements :</translation>
+    </message>
+    <message>
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
         <source>Rook’s menu icon cannot be hidden until the “Display Menu” hot key is set.</source>
         <translation>L’icône du menu de Rook ne peut être masquée que si le raccourci « Afficher le menu » est défini.</translation>
@@ -1773,136 +1903,6 @@ Veuillez consulter le site web de Rook et télécharger la dernière version.</t
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
         <source>General</source>
         <translation>Général</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Start Rook at &amp;login</source>
-        <translation>&amp;Lancer Rook à l’ouverture de session</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Startup:</source>
-        <translation>Démarrage :</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>When the &amp;displays change</source>
-        <translation>Quand les écra&amp;ns changent</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore windows when the displays change</source>
-        <translation>Restaurer les fenêtres quand les écrans changent</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>When an &amp;application launches, after</source>
-        <translation>Quand une &amp;application démarre, après</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore an application’s windows when it launches</source>
-        <translation>Restaurer les fenêtres d’une application à son démarrage</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Seconds to wait after an application’s launch</source>
-        <translation>Secondes d’attente après le démarrage d’une application</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source> s</source>
-        <translation> s</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore windows:</source>
-        <translation>Restaurer les fenêtres :</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Whether they are &amp;maximized, minimized and so on</source>
-        <translation>Si elles sont ma&amp;ximisées, minimisées, etc.</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore whether windows are maximized, minimized and so on</source>
-        <translation>Restaurer si les fenêtres sont maximisées, minimisées, etc.</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Which &amp;virtual desktop they are on</source>
-        <translation>Sur quel &amp;bureau virtuel elles sont</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore which virtual desktop windows are on</source>
-        <translation>Restaurer le bureau virtuel des fenêtres</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Which windows are &amp;in front</source>
-        <translation>Quelles &amp;fenêtres sont devant</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore which windows are in front of others</source>
-        <translation>Restaurer quelles fenêtres sont devant les autres</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore also:</source>
-        <translation>Restaurer aussi :</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Take &amp;pictures of windows</source>
-        <translation>Prendre des &amp;captures des fenêtres</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Take pictures of windows when storing them</source>
-        <translation>Prendre des captures des fenêtres en les mémorisant</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Store windows:</source>
-        <translation>Mémoriser les fenêtres :</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>&amp;Hide the menu icon</source>
-        <translation>&amp;Masquer l’icône du menu</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Menu icon:</source>
-        <translation>Icône du menu :</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Check for &amp;updates automatically</source>
-        <translation>&amp;Rechercher automatiquement les mises à jour</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Updates:</source>
-        <translation>Mises à jour :</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Reset &amp;Warnings</source>
-        <translation>Réacti&amp;ver les avertissements</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Shows all messages again that were switched off</source>
-        <translation>Affiche de nouveau tous les messages désactivés</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Warnings:</source>
-        <translation>Avertissements :</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>

@@ -1765,6 +1765,136 @@ Rook の Web サイトから最新バージョンをダウンロードしてく�
         <translation>ディスプレイ</translation>
     </message>
     <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Start Rook at &amp;login</source>
+        <translation>ログイン時に Rook を起動(&amp;L)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Startup:</source>
+        <translation>起動:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>When the &amp;displays change</source>
+        <translation>ディスプレイが変わったとき(&amp;D)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore windows when the displays change</source>
+        <translation>ディスプレイが変わったときにウィンドウを復元</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>When an &amp;application launches, after</source>
+        <translation>アプリケーションの起動後(&amp;A)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore an application’s windows when it launches</source>
+        <translation>アプリケーションの起動時にそのウィンドウを復元</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Seconds to wait after an application’s launch</source>
+        <translation>アプリケーションの起動後に待つ秒数</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source> s</source>
+        <translation> 秒</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore windows:</source>
+        <translation>ウィンドウの復元:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Whether they are &amp;maximized, minimized and so on</source>
+        <translation>最大化や最小化などの状態(&amp;M)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore whether windows are maximized, minimized and so on</source>
+        <translation>ウィンドウの最大化や最小化などの状態を復元</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Which &amp;virtual desktop they are on</source>
+        <translation>どの仮想デスクトップにあるか(&amp;V)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore which virtual desktop windows are on</source>
+        <translation>ウィンドウがどの仮想デスクトップにあるかを復元</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Which windows are &amp;in front</source>
+        <translation>どのウィンドウが手前か(&amp;I)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore which windows are in front of others</source>
+        <translation>どのウィンドウがほかより手前かを復元</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Restore also:</source>
+        <translation>ほかに復元するもの:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Take &amp;pictures of windows</source>
+        <translation>ウィンドウの画像を撮る(&amp;P)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Take pictures of windows when storing them</source>
+        <translation>保存時にウィンドウの画像を撮る</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Store windows:</source>
+        <translation>ウィンドウの保存:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>&amp;Hide the menu icon</source>
+        <translation>メニューアイコンを隠す(&amp;H)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Menu icon:</source>
+        <translation>メニューアイコン:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Check for &amp;updates automatically</source>
+        <translation>更新を自動的に確認(&amp;U)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Updates:</source>
+        <translation>更新:</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Reset &amp;Warnings</source>
+        <translation>警告をリセット(&amp;W)</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Shows all messages again that were switched off</source>
+        <translation>非表示にしたメッセージを再びすべて表示します</translation>
+    </message>
+    <message>
+        <location filename="../../src/UserInterface/LMGeneralPreferencesLayout.cpp"/>
+        <source>Warnings:</source>
+        <translation>警告:</translation>
+    </message>
+    <message>
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
         <source>Rook’s menu icon cannot be hidden until the “Display Menu” hot key is set.</source>
         <translation>Rook のメニューアイコンを隠すには、ホットキー「メニューを表示」を設定する必要があります。</translation>
@@ -1773,136 +1903,6 @@ Rook の Web サイトから最新バージョンをダウンロードしてく�
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
         <source>General</source>
         <translation>一般</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Start Rook at &amp;login</source>
-        <translation>ログイン時に Rook を起動(&amp;L)</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Startup:</source>
-        <translation>起動:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>When the &amp;displays change</source>
-        <translation>ディスプレイが変わったとき(&amp;D)</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore windows when the displays change</source>
-        <translation>ディスプレイが変わったときにウィンドウを復元</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>When an &amp;application launches, after</source>
-        <translation>アプリケーションの起動後(&amp;A)</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore an application’s windows when it launches</source>
-        <translation>アプリケーションの起動時にそのウィンドウを復元</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Seconds to wait after an application’s launch</source>
-        <translation>アプリケーションの起動後に待つ秒数</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source> s</source>
-        <translation> 秒</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore windows:</source>
-        <translation>ウィンドウの復元:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Whether they are &amp;maximized, minimized and so on</source>
-        <translation>最大化や最小化などの状態(&amp;M)</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore whether windows are maximized, minimized and so on</source>
-        <translation>ウィンドウの最大化や最小化などの状態を復元</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Which &amp;virtual desktop they are on</source>
-        <translation>どの仮想デスクトップにあるか(&amp;V)</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore which virtual desktop windows are on</source>
-        <translation>ウィンドウがどの仮想デスクトップにあるかを復元</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Which windows are &amp;in front</source>
-        <translation>どのウィンドウが手前か(&amp;I)</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore which windows are in front of others</source>
-        <translation>どのウィンドウがほかより手前かを復元</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Restore also:</source>
-        <translation>ほかに復元するもの:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Take &amp;pictures of windows</source>
-        <translation>ウィンドウの画像を撮る(&amp;P)</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Take pictures of windows when storing them</source>
-        <translation>保存時にウィンドウの画像を撮る</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Store windows:</source>
-        <translation>ウィンドウの保存:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>&amp;Hide the menu icon</source>
-        <translation>メニューアイコンを隠す(&amp;H)</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Menu icon:</source>
-        <translation>メニューアイコン:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Check for &amp;updates automatically</source>
-        <translation>更新を自動的に確認(&amp;U)</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Updates:</source>
-        <translation>更新:</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Reset &amp;Warnings</source>
-        <translation>警告をリセット(&amp;W)</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Shows all messages again that were switched off</source>
-        <translation>非表示にしたメッセージを再びすべて表示します</translation>
-    </message>
-    <message>
-        <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
-        <source>Warnings:</source>
-        <translation>警告:</translation>
     </message>
     <message>
         <location filename="../../src/UserInterface/LMGeneralPreferencesViewController.cpp"/>
