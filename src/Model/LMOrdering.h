@@ -13,12 +13,6 @@
 // An ordered relationship is a plain set of members and, beside it, the list of their URIs in the
 // order in which people see them.
 
-/// Whether the set holds the object.
-template <class T>
-bool LMIsMember(const std::vector<T*>& members, const LMManagedObject* object) {
-    return std::find(members.begin(), members.end(), object) != members.end();
-}
-
 /// The URIs of the objects, in their order.
 template <class T>
 QStringList LMURIsOfObjects(const std::vector<T*>& objects) {

@@ -212,12 +212,12 @@ LMApplicationIdentity LMIdentifyApplication(const LMWindowIdentityFacts& facts,
     const Ladder ladder(facts, table);
     for (const LMIdentitySource rung : rungs) {
         if (const LMDesktopEntry* entry = ladder.entryAt(rung))
-            return {entry->identifier, entry->localizedName, rung, true};
+            return {entry->identifier, entry->localizedName, rung};
     }
     for (const LMIdentitySource rung : rungs) {
         const QString identifier = LMSanitizedIdentifier(ladder.identifierAt(rung));
         if (!identifier.isEmpty())
-            return {identifier, nameWithoutEntry(facts, identifier), rung, false};
+            return {identifier, nameWithoutEntry(facts, identifier), rung};
     }
     return {};
 }

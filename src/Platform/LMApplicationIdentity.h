@@ -38,7 +38,6 @@ struct LMApplicationIdentity {
     QString bundleIdentifier; ///< Empty when nothing tells; at most 255 characters.
     QString localizedName;
     LMIdentitySource source = LMIdentitySource::None;
-    bool hasDesktopEntry = false; ///< bundleIdentifier is the identifier of an installed entry.
 };
 
 /// Climbs the ladder of identity: first for a rung that leads to an installed desktop entry, then,

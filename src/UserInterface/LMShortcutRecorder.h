@@ -28,7 +28,6 @@ public:
                        QWidget* parent = nullptr);
     ~LMShortcutRecorder() override;
 
-    QString associatedUserDefaultsKey() const { return m_key; }
     /// Follows the key from now on, and stores under it.
     void setAssociatedUserDefaultsKey(const QString& key);
 

@@ -29,9 +29,6 @@ public:
     LMObjectContext& managedObjectContext() const { return *m_context; }
     LMEnvironment& environment() const;
 
-    /// Not yet in the store file.
-    bool isInserted() const { return m_isInserted; }
-    bool isDeleted() const { return m_isDeleted; }
     bool hasChanges() const { return m_hasChanges; }
 
     /// The object that owns this one, or none while it is unattached.
@@ -87,7 +84,7 @@ private:
     const LMEntityDescription* m_entity = nullptr;
     LMObjectContext* m_context = nullptr;
     LMManagedObject* m_owner = nullptr;
-    bool m_isInserted = false;
+    bool m_isInserted = false; ///< Not yet in the store file.
     bool m_isDeleted = false;
     bool m_hasChanges = false;
     // Kept by the context.

@@ -204,11 +204,6 @@ const LMX11Application* LMX11ApplicationIndex::applicationOfWindow(xcb_window_t 
     return d->table.applicationOfWindow(window);
 }
 
-QList<xcb_window_t> LMX11ApplicationIndex::windowsOfApplication(qint64 processIdentifier) const {
-    const LMX11Application* found = application(processIdentifier);
-    return found != nullptr ? found->windows : QList<xcb_window_t>();
-}
-
 const QList<xcb_window_t>& LMX11ApplicationIndex::stackingOrder() const {
     return d->stackingOrder;
 }

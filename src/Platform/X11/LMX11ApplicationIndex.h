@@ -51,9 +51,6 @@ public:
     const LMX11Application* applicationWithIdentifier(const QString& bundleIdentifier) const;
     const LMX11Application* applicationOfWindow(xcb_window_t window) const;
 
-    /// Front to back; empty when there is no such application.
-    QList<xcb_window_t> windowsOfApplication(qint64 processIdentifier) const;
-
     /// All managed windows, front to back.
     const QList<xcb_window_t>& stackingOrder() const;
 

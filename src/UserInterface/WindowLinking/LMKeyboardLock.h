@@ -25,9 +25,6 @@ public:
     void lock(QWindow& window);
     void unlock();
 
-    /// Whether keys do arrive here.
-    bool isHeld() const { return m_isHeld; }
-
 private:
     void attempt();
 

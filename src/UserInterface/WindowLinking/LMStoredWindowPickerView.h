@@ -44,7 +44,6 @@ public:
     /// From here on no key of the session reaches another window. The view is on the screen.
     void lockKeyboardFocus();
     void unlockKeyboardFocus() { m_keyboard.unlock(); }
-    bool isKeyboardFocusLocked() const { return m_keyboard.isHeld(); }
 
 Q_SIGNALS:
     void selected(const LMObjectID& storedWindow);
