@@ -50,15 +50,11 @@ TEST_F(LMDesktopEntriesTest, ReadsEntriesAndSeesChanges) {
         const LMDesktopEntry* entry = in.entryWithIdentifier(QLatin1String(identifier));
         return entry ? entry->localizedName : QString();
     };
-    for (const auto& [identifier, name] : {std::pair("masked", QString()),
-                                           {"link", {}},
-                                           {"own.desktop", u"Mine"_qs},
-                                           {"OWN", u"Mine"_qs},
-                                           {"kde-sub-deep", u"Tief"_qs}})
-        EXPECT_EQ(nameOf(*table, identifier), name) << identifier;
-    const LMDesktopEntry& deep = *table->entryWithIdentifier(u"kde-sub-deep"_qs);
-    EXPECT_EQ(deep.program, u"deep"_qs);
-    EXPECT_FALSE(deep.startsPlainly);
+    EXPECT_EQ(nameOf(*table, "masked"), QString());
+    EXPECT_EQ(nameOf(*table, "link"), QString());
+    EXPECT_EQ(nameOf(*table, "OWN.desktop"), u"Mine"_qs);
+    EXPECT_EQ(nameOf(*table, "kde-sub-deep"), u"Tief"_qs);
+    EXPECT_EQ(table->entryWithIdentifier(u"kde-sub-deep"_qs)->program, u"deep"_qs);
     EXPECT_EQ(entries.table(), table) << "read again although nothing changed";
 
     addEntry(u"system/applications/kde/sub/late"_qs, "Name=Late");
@@ -67,9 +63,8 @@ TEST_F(LMDesktopEntriesTest, ReadsEntriesAndSeesChanges) {
 }
 
 TEST_F(LMDesktopEntriesTest, FindsTheDefaultApplication) {
-    for (const char* name : {"files", "other", "third"})
-        addEntry(u"system/applications/"_qs + QLatin1String(name),
-                 "Name=X\nMimeType=inode/directory;");
+    for (const QString& name : {u"files"_qs, u"other"_qs, u"third"_qs})
+        addEntry(u"system/applications/"_qs + name, "Name=X\nMimeType=inode/directory;");
     const QStringList files =
         LMAssociationFiles({path(u"config"_qs)}, dataDirectories, {u"MATE"_qs});
     const std::tuple<const char*, const char*, const char*, QString> steps[] = {
@@ -84,8 +79,7 @@ TEST_F(LMDesktopEntriesTest, FindsTheDefaultApplication) {
         add(QLatin1String(file), QByteArray("[") + group + "]\ninode/directory=" + applications);
         const auto table = LMDesktopEntries(dataDirectories, {}).table();
         const auto* entry = LMDefaultApplication(u"inode/directory"_qs, files, *table);
-        ASSERT_NE(entry, nullptr);
-        EXPECT_EQ(entry->identifier, expected);
+        EXPECT_EQ(entry ? entry->identifier : QString(), expected);
     }
 }
 
