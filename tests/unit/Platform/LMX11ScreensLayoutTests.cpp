@@ -36,8 +36,6 @@ TEST(LMX11ScreensLayout, PlacesScreensAroundTheMainOne) {
         {"CRTCs instead of monitors", bare, "102 0,0 1920x1080 | 101 -1440,90 1440x900"},
         {"primary missing", Builder().pictures({side, hd}),
          "101 0,0 1440x900 | 102 -1920,-180 1920x1080"},
-        {"mirrored", Builder().pictures({hd, hd, side}, 1),
-         "101 0,0 1920x1080 | 103 1920,180 1440x900"},
         {"mirrored by smaller ones", Builder().pictures({square, small, hd}, 0),
          "103 0,0 1920x1080"},
         {"overlapping is not mirrored", Builder().pictures({hd, overlapping}, 0),
@@ -66,14 +64,12 @@ TEST(LMX11ScreensLayout, LeavesOutWhatDocksReserve) {
     const LMX11Strut nonsense{Qt::BottomEdge, 32000, 0, 32767};
     const QList<QRect> perMonitor{{0, 30, 1920, 1050}, {1920, 200, 1440, 880}};
     const std::tuple<const char*, QRect, bool, LMX11WorkAreas, QRect> rows[] = {
-        {"no dock", side, false, {}, side},
         {"only display", hd, true, {{0, 24, 1920, 1000}, {}, {top}}, {0, 24, 1920, 1000}},
         {"work area beyond", hd, true, {{-50, 24, 4000, 1000}, {}, {}}, {0, 24, 1920, 1000}},
         {"work area elsewhere", hd, true, {{5000, 0, 9, 9}, {}, {top}}, {0, 30, 1920, 1050}},
         {"one work area for several", side, false, {{0, 400, 3360, 400}, {}, {}}, side},
         {"one for each wins", side, false, {{}, perMonitor, {bottom}}, perMonitor[1]},
         {"struts", side, false, {{}, {}, {top, bottom, inner}}, {1984, 180, 1376, 852}},
-        {"struts of others", hd, false, {{}, {}, {top, bottom, inner}}, {0, 30, 1920, 1050}},
         {"a strut from further up", side, false, {{}, {}, {deepTop}}, {1920, 220, 1440, 860}},
         {"a strut that ends above", side, false, {{}, {}, {fullTop}}, side},
         {"nonsense", side, false, {{}, {}, {nonsense}}, side},
