@@ -89,9 +89,12 @@ void LMStateRestoration::begin(const LMRestorePlan& plan, LMMinimized minimized)
             continue;
         const LMWindowState state =
             stateForFrame(*decision, live->window, assignment.window->frame());
-        if (LMStatesAgree(state, live->window))
+        const auto frame = m_rules.restoresStates ? decision->frame : std::nullopt;
+        const bool agrees = LMStatesAgree(state, live->window);
+        if (!agrees || (frame && !LMRectsEqual(*frame, assignment.window->frame())))
+            changes.append({decision->element, state, frame});
+        if (agrees)
             continue;
-        changes.append({decision->element, state});
         decision->hasLeftState = decision->frame.has_value() && m_rules.restoresStates;
         if (decision->frame && !live->window.normalFrame)
             unsized.push_back(decision->element);

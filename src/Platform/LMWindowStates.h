@@ -33,6 +33,10 @@ struct LMWindowState {
 struct LMWindowStateChange {
     LMElement window;
     LMWindowState state;
+    /// Where LMAccessibility will be asked to put a window that is to be neither maximised nor
+    /// fullscreen. A back end that maximises windows for the sake of certain frames there brings
+    /// the window to such a frame here; to others it pays no attention.
+    std::optional<QRectF> frame{};
 };
 
 /// What the window manager in force can do with windows.

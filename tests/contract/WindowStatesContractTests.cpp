@@ -105,6 +105,16 @@ TEST_P(WindowStatesContract, WindowsFillTheMonitorTheyStandOn) {
     }
 }
 
+TEST_P(WindowStatesContract, AWindowMayFillItsMonitorWithoutBeingMaximized) {
+    for (const QRectF& monitor : backend->monitors()) {
+        const LMElement window = open();
+        EXPECT_TRUE(inTime(bool(all().setStates({{window, {.desktop = 0}, monitor}}).first())));
+        ASSERT_TRUE(setFrame(window, monitor));
+        EXPECT_EQ(state(window), S{.desktop = 0});
+        EXPECT_TRUE(isAt(window, monitor));
+    }
+}
+
 TEST_P(WindowStatesContract, TheNormalFrameIsKnownWhoeverMaximizes) {
     const LMElement window = open();
     const QRectF normal = frame(window).translated(31, 47);

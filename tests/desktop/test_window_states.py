@@ -61,6 +61,8 @@ class WindowStates(unittest.TestCase):
         cls.probe.all_settled(cls.windows, deadline=20.0)
         for number, window in enumerate(cls.windows):
             cls.stand(window, STANCES[number % len(STANCES)], number // len(STANCES) % 4 if number else 0)
+        # Drawn by hand to the size of a maximised one.
+        cls.probe.place(cls.windows[10], cls.probe.frame(cls.windows[1]))
         cls.user = cls.windows[0]
         cls.probe.switch_desktop(0)
         cls.probe.activate(cls.user)

@@ -56,6 +56,7 @@ public:
     LMPlatformResult<Known> readWindow(const LMElement& element);
     /// The window has been changed by somebody else.
     void forget(const LMElement& window);
+    LMX11FrameSetter& frameSetter() { return m_setter; }
 
 private:
     LMPlatformResult<LMAttributeValue> applicationValue(const LMElement& element,

@@ -96,6 +96,20 @@ LMPlatformStatus LMX11FrameSetter::setSize(const LMX11Reading& reading, const QS
     return status;
 }
 
+void LMX11FrameSetter::setPlainFrame(const LMX11Coordinates& coordinates, LMX11Window& window,
+                                     const QRectF& frame) {
+    const QPointF place = coordinates.rootFromGlobal(frame.topLeft());
+    const Goal goal{QPoint(pixel(place.x()), pixel(place.y())),
+                    QSize(pixel(frame.width()), pixel(frame.height()))};
+    if (!window.exists || window.states.isFullscreen || window.states.isMaximized() ||
+        !goal.fillsMonitor(coordinates.monitors()) || goal.isReached(window.geometry))
+        return;
+    m_deadline = after(answerTime);
+    m_connection.selectEvents(window.identifier, XCB_EVENT_MASK_PROPERTY_CHANGE);
+    (void)reachPlainly(window, goal); // LMAccessibility is to tell what is amiss.
+    m_normalFrames.note(window);
+}
+
 LMX11FrameSetter::Goal LMX11FrameSetter::goalFor(const LMAttributeValue& value,
                                                  const LMX11Coordinates& coordinates,
                                                  const LMX11Window& window) const {
@@ -177,8 +191,12 @@ LMPlatformStatus LMX11FrameSetter::reach(const LMX11Coordinates& coordinates, LM
     }
     if (status && window.states.isMaximized())
         status = changeMaximized(window, Change::Remove);
-    if (status)
-        status = request(window, goal);
+    return status ? reachPlainly(window, goal) : status;
+}
+
+/// The same for a window that is not maximised and is not to be.
+LMPlatformStatus LMX11FrameSetter::reachPlainly(LMX11Window& window, const Goal& goal) {
+    LMPlatformStatus status = request(window, goal);
     if (status && goal.size && window.states.isShaded && !goal.isReached(window.geometry))
         status = resizeShaded(window, goal);
 

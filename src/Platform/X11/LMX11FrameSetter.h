@@ -36,6 +36,7 @@
 /// moved in because the window is still too large is asked for again together with the new size. A
 /// frame that fills a monitor is that of a maximised window: terminals reach it in no other way,
 /// since they round sizes, and marco would take a large undecorated window for a fullscreen one.
+/// Who knows better says so first (setPlainFrame).
 class LMX11FrameSetter {
 public:
     /// All must outlive it.
@@ -46,6 +47,10 @@ public:
     LMPlatformStatus setPosition(const LMX11Reading& reading, const QPointF& position);
     /// The window keeps its position.
     LMPlatformStatus setSize(const LMX11Reading& reading, const QSizeF& size);
+    /// A frame that fills a monitor, for a window that is not to be maximised. Does nothing for
+    /// other frames and for windows that are maximised or fullscreen.
+    void setPlainFrame(const LMX11Coordinates& coordinates, LMX11Window& window,
+                       const QRectF& frame);
 
     /// Sets a position or a size for each window of the reading, as far as one request for each
     /// will do: sends all requests, waits for them together and brings the reading up to date.
@@ -79,6 +84,7 @@ private:
     void noteRefusal(const LMX11Window& window, const QPoint& wanted);
     LMPlatformStatus reach(const LMX11Coordinates& coordinates, LMX11Window& window,
                            const Goal& goal);
+    LMPlatformStatus reachPlainly(LMX11Window& window, const Goal& goal);
     LMPlatformStatus request(LMX11Window& window, const Goal& goal);
     LMPlatformStatus changeMaximized(LMX11Window& window, Change change);
     LMPlatformStatus resizeShaded(LMX11Window& window, const Goal& goal);

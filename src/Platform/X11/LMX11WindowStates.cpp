@@ -78,6 +78,11 @@ QList<LMPlatformStatus> LMX11WindowStates::setStates(const QList<LMWindowStateCh
             changes[index].state, LMX11StateOfWindow(reading.windows[index], reading.desktopNames),
             support, reading.desktopNames.size(), int(view.currentDesktop())));
     const bool isAnswered = support != LMWindowStateSupport() && m_setter.reach(reading, wanted);
+    for (qsizetype index = 0; isAnswered && index < changes.size(); ++index) {
+        if (const auto& frame = changes[index].frame)
+            m_accessibility.frameSetter().setPlainFrame(reading.coordinates, reading.windows[index],
+                                                        *frame);
+    }
     if (isAnswered && m_setter.hasAsked())
         view.restore();
 
