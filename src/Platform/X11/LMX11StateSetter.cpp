@@ -145,6 +145,8 @@ void LMX11StateSetter::waitForRest(bool haveShadows) {
 
 bool LMX11StateSetter::waitForChange(Deadline deadline) {
     const auto concerns = [this](const xcb_generic_event_t& event) {
+        if (!m_windowManager.mayBeItsWork(event))
+            return false;
         switch (LMXcbEventType(event)) {
         case XCB_CONFIGURE_NOTIFY:
             return m_asked.contains(

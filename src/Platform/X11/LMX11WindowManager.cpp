@@ -99,13 +99,10 @@ bool LMX11WindowManager::waitUntilCaughtUp(LMX11Connection::Deadline deadline,
     xcb_configure_window(m_connection.xcb(), m_connection.ownWindow(), XCB_CONFIG_WINDOW_X, &place);
     bool hasCaughtUp = false;
     const auto isSignOfLife = [&](const xcb_generic_event_t& event) {
-        if (LMXcbEventType(event) == XCB_PROPERTY_NOTIFY)
-            return patience && Clock::now() < deadline;
-        if (LMXcbEventType(event) != XCB_CONFIGURE_NOTIFY)
-            return false;
         const auto& notify = reinterpret_cast<const xcb_configure_notify_event_t&>(event);
-        hasCaughtUp = notify.window == m_connection.ownWindow() && notify.x == m_fence;
-        return hasCaughtUp || (patience && Clock::now() < deadline);
+        hasCaughtUp = LMXcbEventType(event) == XCB_CONFIGURE_NOTIFY &&
+                      notify.window == m_connection.ownWindow() && notify.x == m_fence;
+        return hasCaughtUp || (patience && mayBeItsWork(event) && Clock::now() < deadline);
     };
     if (m_missedFences >= mostMissedFences)
         deadline = std::min(deadline, Clock::now() + frozenManagerTime);
@@ -116,6 +113,16 @@ bool LMX11WindowManager::waitUntilCaughtUp(LMX11Connection::Deadline deadline,
     }
     m_missedFences = hasCaughtUp ? 0 : m_missedFences + 1;
     return hasCaughtUp;
+}
+
+bool LMX11WindowManager::mayBeItsWork(const xcb_generic_event_t& event) const {
+    if (LMXcbEventType(event) != XCB_PROPERTY_NOTIFY)
+        return LMXcbEventType(event) == XCB_CONFIGURE_NOTIFY;
+    const xcb_ewmh_connection_t& atoms = m_connection.ewmhAtoms();
+    const xcb_atom_t titles[] = {XCB_ATOM_WM_NAME, XCB_ATOM_WM_ICON_NAME, atoms._NET_WM_NAME,
+                                 atoms._NET_WM_ICON_NAME};
+    const auto& changed = reinterpret_cast<const xcb_property_notify_event_t&>(event);
+    return std::ranges::find(titles, changed.atom) == std::end(titles);
 }
 
 void LMX11WindowManager::moveResize(xcb_window_t window, const std::optional<QPoint>& place,

@@ -28,6 +28,10 @@ public:
     bool waitUntilCaughtUp(LMX11Connection::Deadline deadline,
                            std::optional<std::chrono::milliseconds> patience = {});
 
+    /// Whether the event may be a sign that the manager is at work on windows: one has been
+    /// configured, or a property has changed that is not a title, which is its client's.
+    bool mayBeItsWork(const xcb_generic_event_t& event) const;
+
     /// Asks for a new place, a new size or both: whatever is given. North-west gravity: the place
     /// is that of the corner of the window with its decorations, root coordinates.
     void moveResize(xcb_window_t window, const std::optional<QPoint>& place,
