@@ -1,14 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "unit/Utilities/Support.h"
 #include "UserInterface/LMPresentableText.h"
-#include "UserInterface/LMTemplateImage.h"
-
-#include <QImage>
-#include <QPainter>
 
 #include <gtest/gtest.h>
-
-#include <span>
 
 TEST(PresentableText, TakesOutWhatBreaksALayout) {
     const std::tuple<const char*, QString, QString> rows[] = {
@@ -45,22 +39,4 @@ TEST(PresentableText, NamesControlsWithoutTheirMnemonics) {
     };
     for (const auto& [text, expected] : rows)
         EXPECT_EQ(LMWithoutMnemonic(text), expected);
-}
-
-/// Edges of the drawing that do not stand on pixels would show as mixed colours.
-TEST(TemplateImage, IsSharpAtEverySizeOfAPanel) {
-    const LMTemplateImage image(u":/rook/StatusItemTemplate.svg"_qs);
-    ASSERT_FALSE(image.isNull());
-    for (const int edge : {16, 20, 22, 24, 30, 32, 44, 48, 66, 72}) {
-        QImage picture(edge, edge, QImage::Format_ARGB32);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        image.paint(painter, picture.rect());
-        painter.end();
-        const std::span pixels(reinterpret_cast<const QRgb*>(picture.constBits()), edge * edge);
-        const auto count = [&](QRgb colour) { return std::ranges::count(pixels, colour); };
-        const int roundCorners = edge; // Four of them, a few pixels each.
-        EXPECT_GE(count(0) + count(0xff2b3038) + count(0xfff4f6f8), edge * edge - roundCorners);
-        EXPECT_GT(count(0xfff4f6f8), edge * edge / 5) << edge;
-    }
 }
