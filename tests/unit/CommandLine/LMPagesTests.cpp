@@ -3,25 +3,11 @@
 #include "CommandLine/LMManualPage.h"
 #include "CommandLine/LMShellCompletion.h"
 
-#include <QHash>
-
 #include <gtest/gtest.h>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-TEST(Pages, EveryCommandIsDescribedWithWhatItTakes) {
-    const LMCommandLineDescription described = LMDescribeCommandLine();
-    QHash<QString, LMCommandDescription> commands;
-    for (const LMCommandDescription& command : described.commands)
-        commands.insert(command.name, command);
-    EXPECT_EQ(commands.size(), 16);
-    EXPECT_EQ(commands[u"plan"_s].argument, u"ID"_s);
-    EXPECT_EQ(commands[u"plan"_s].options.last().names, QStringList{u"--json"_s});
-    EXPECT_EQ(commands[u"store-all"_s].options.first().names, (QStringList{u"-h"_s, u"--help"_s}));
-    EXPECT_EQ(described.exitCodes.size(), 4);
-}
 
 TEST(Pages, TextsOfAnyKindStayTexts) {
     LMCommandLineDescription odd;
