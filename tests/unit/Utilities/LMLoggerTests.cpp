@@ -3,11 +3,8 @@
 
 #include "Support.h"
 
-#include <gmock/gmock.h>
-
 namespace {
 
-using testing::MatchesRegex;
 using LMLoggerTest = TemporaryDirectoryTest;
 
 TEST_F(LMLoggerTest, EscapesAndCutsHostileText) {
@@ -28,17 +25,6 @@ TEST_F(LMLoggerTest, EscapesAndCutsHostileText) {
     }
     logger.error(u"%@"_qs.repeated(50), QStringList(50, longTitle));
     EXPECT_LT(messages.takeLast().size(), 8100);
-}
-
-TEST(LMLogger, WritesOneLineWithItsPlaceToStandardError) {
-    testing::internal::CaptureStderr();
-    const LMLogger logger({.systemLog = false, .level = LMLogLevel::Info});
-    logger.debug(u"not shown"_qs);
-    const int line = __LINE__ + 1;
-    logger.error(u"Save failed: %@ {}"_qs, {u"disk\nfull"_qs});
-    const std::string output = testing::internal::GetCapturedStderr();
-    EXPECT_THAT(output, MatchesRegex("[^\n]*error: LMLoggerTests.cpp:" + std::to_string(line) +
-                                     "[^\n]*TestBody[^\n]*Save failed: disk.nfull .*\n"));
 }
 
 } // namespace
