@@ -56,11 +56,7 @@ TEST_F(ModelTest, ARemovedStoreIsMadeAnewWithEverythingThatIsRemembered) {
         reopen();
         EXPECT_EQ(all<LMStoredWindow>().size(), 2U);
         ASSERT_TRUE(withFolder ? QDir(folder).removeRecursively() : QFile::remove(path()));
-        LMWithFullDisk(512, [&] {
-            all<LMStoredWindow>().front()->setLabel(u"changed"_s);
-            EXPECT_FALSE(context().save());
-        });
-        all<LMStoredWindow>().back()->setLabel(u"later"_s);
+        all<LMStoredWindow>().front()->setLabel(u"changed"_s);
         EXPECT_TRUE(context().save());
         reopen();
         EXPECT_EQ(storedTitles(), QStringList({u"a"_s, u"b"_s})) << withFolder;
