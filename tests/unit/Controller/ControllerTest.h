@@ -79,10 +79,8 @@ protected:
         return answer.value_or(LMCommandResult::refused(u"unknown"_s));
     }
 
-    int argumentCount = 1;
-    char programName[5] = "test";
-    char* argumentValues[2] = {programName, nullptr};
-    QCoreApplication coreApplication{argumentCount, argumentValues}; ///< For timers.
+    int argumentCount = 0;
+    QCoreApplication coreApplication{argumentCount, nullptr}; ///< For timers.
     ScriptedUserInterface userInterface;
     LMStoredWindowsStore store{environment};
     LMApplicationDelegate delegate{environment, store, userInterface};
