@@ -46,7 +46,9 @@ public:
     /// Returns when the window is so for everybody.
     virtual void setState(const LMElement& window, const LMWindowState& state) = 0;
     void minimize(const LMElement& window) {
-        setState(window, {.isMinimized = true, .desktop = 0});
+        LMWindowState state = visibleState(window);
+        state.isMinimized = true;
+        setState(window, state);
     }
     /// Brings the window to the front and gives it the focus.
     virtual void raise(const LMElement& window) = 0;

@@ -201,14 +201,8 @@ LMWindowState LMX11ContractBackend::visibleState(const LMElement& window) {
 }
 
 LMContractView LMX11ContractBackend::view() {
-    const QString text =
-        LMRunTool(u"xprop -root -notype _NET_CURRENT_DESKTOP _NET_ACTIVE_WINDOW"_qs);
-    const auto captured = [&](const QString& pattern) {
-        return QRegularExpression(pattern).match(text).captured(1);
-    };
-    return {captured(u"DESKTOP = (\\d+)"_qs).toInt(),
-            {LMElement::Kind::Window,
-             captured(u"window id # (0x[0-9a-f]+)"_qs).toLongLong(nullptr, 16)}};
+    const QStringList lines = LMRunTool(u"xdotool get_desktop getactivewindow"_qs).split(u'\n');
+    return {lines.value(0).toInt(), {LMElement::Kind::Window, lines.value(1).toLongLong()}};
 }
 
 QList<QRectF> LMX11ContractBackend::monitors() {
