@@ -1,20 +1,13 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
 """Whatever the keyboard can reach has a name and a role that a screen reader can tell."""
-from __future__ import annotations
-
-import os
-import sys
 import unittest
-from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).resolve().parent.parent.parent / "tools"))
-from rig.accessibility import ENVIRONMENT, shown_objects, start_registry  # noqa: E402
-from rig.desktop import Desktop  # noqa: E402
-from rig.probe import Frame  # noqa: E402
-from rig.processes import wait_until  # noqa: E402
-from rig.resident import Resident  # noqa: E402
-from rig.scenario import open_windows  # noqa: E402
+from desktop_test import DesktopTest
+from rig.accessibility import shown_objects
+from rig.probe import Frame
+from rig.processes import wait_until
+from rig.scenario import open_windows
 
 WINDOWS = (("xterm", "first shell", Frame(60, 80, 520, 340)), ("featherpad", "notes.txt", Frame(700, 310, 555, 444)))
 # How each window is opened, by a command or by keys in the one before; its name, its role, and parts of it.
@@ -32,27 +25,21 @@ LOOKS = (
 )
 
 
-class Accessibility(unittest.TestCase):
-    def setUp(self) -> None:
-        self.desktop = Desktop(os.environ.get("ROOK_TEST_MANAGER", "openbox"), "two")
-        self.addCleanup(self.desktop.close)
-        start_registry(self.desktop.session)
-        self.rook = Resident(self.desktop.session, start=False, headless=False, settings={})
-        self.rook.start(environment=ENVIRONMENT)
-        shell, _ = open_windows(self.desktop, WINDOWS)
-        self.rook.do("store-all")
-        self.desktop.probe.activate(shell.identifier)
+class Accessibility(DesktopTest):
+    settings, tells_screen_readers = {}, True
 
     def objects(self, window: str) -> list[dict]:
-        return [found for found in shown_objects(self.desktop.session, "rook") if found["window"] == window]
+        return [found for found in shown_objects(self.session, "rook") if found["window"] == window]
 
     def test_every_window_tells_what_it_is(self) -> None:
+        shell, _ = open_windows(self.desktop, WINDOWS)
+        self.rook.do("store-all")
+        self.probe.activate(shell.identifier)
         for command, keys, window, role, parts in LOOKS:
             with self.subTest(window=window, command=command, keys=keys):
                 if command:
                     self.rook.do(command)
-                for key in keys:
-                    self.desktop.probe.tool("xdotool", "key", key)
+                self.probe.press(*keys)
                 expected = {(window, role, True), *((name, part, False) for name, part in parts.items())}
                 wait_until(lambda: expected <= {(found["name"], found["role"], "active" in found["states"])
                                                 for found in self.objects(window)},

@@ -1,65 +1,43 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
 """The editor of stored windows with real keys and clicks; what they do is read from the store."""
-from __future__ import annotations
-
-import os
 import sqlite3
-import sys
 import unittest
-from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).resolve().parent.parent.parent / "tools"))
-from rig.accessibility import ENVIRONMENT, shown_objects, start_registry  # noqa: E402
-from rig.desktop import Desktop  # noqa: E402
-from rig.displays import keyboard_is_free  # noqa: E402
-from rig.probe import Frame  # noqa: E402
-from rig.processes import wait_until  # noqa: E402
-from rig.resident import Resident  # noqa: E402
-from rig.scenario import open_windows  # noqa: E402
+from desktop_test import DesktopTest
+from rig.accessibility import shown_objects
+from rig.displays import keyboard_is_free
+from rig.probe import Frame
+from rig.processes import wait_until
+from rig.scenario import open_windows
 
 WINDOWS = (("xterm", "first shell", Frame(60, 80, 520, 340)), ("xterm", "second shell", Frame(700, 390, 530, 350)),
            ("featherpad", "notes.txt", Frame(2100, 310, 555, 444)))
 
 
-class Editor(unittest.TestCase):
+class Editor(DesktopTest):
+    settings, tells_screen_readers = {}, True
+
     def setUp(self) -> None:
-        self.desktop = Desktop(os.environ.get("ROOK_TEST_MANAGER", "openbox"), "two")
-        self.addCleanup(self.desktop.close)
-        self.probe = self.desktop.probe
-        start_registry(self.desktop.session)
-        self.rook = Resident(self.desktop.session, start=False, headless=False, settings={})
-        self.rook.start(environment=ENVIRONMENT)
+        super().setUp()
+        self.press = self.probe.press
         open_windows(self.desktop, WINDOWS)
         self.rook.do("store-all")
         self.rook.do("show")
-        self.wait_for_window("Stored Windows")
+        self.probe.wait_for_focus("Stored Windows")
         self.press("Return")
-        self.editor = self.wait_for_window("2 Displays")
+        self.editor = self.probe.wait_for_focus("2 Displays")
 
     # Acting
-
-    def press(self, *keys: str) -> None:
-        self.probe.tool("xdotool", "key", *keys)
-
-    def type(self, text: str) -> None:
-        self.probe.tool("xdotool", "type", text)
 
     def add_shell_script(self, *keys: str) -> None:
         """Then presses keys without a pause, as long as the menu still has the keyboard for itself."""
         self.press("alt+a")
-        wait_until(lambda: not keyboard_is_free(self.desktop.server.display), "the menu")
+        wait_until(lambda: not keyboard_is_free(self.server.display), "the menu")
         self.press("--delay", "0", "s", *keys)
 
-    def wait_for_window(self, title: str) -> int:
-        """The window of that name once it has the focus."""
-        def active() -> int:
-            found = self.probe.tool("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split()
-            return self.probe.active_window() if str(self.probe.active_window()) in found else 0
-        return wait_until(active, f"the window {title}", 20.0)
-
     def drag_first_window_to_the_end(self) -> None:
-        (x, y, width, height), = (found["place"] for found in shown_objects(self.desktop.session, "rook")
+        (x, y, width, height), = (found["place"] for found in shown_objects(self.session, "rook")
                                   if found["name"] == "first shell")
         x, y = x + width // 2, y + height // 2
         self.probe.tool("xdotool", "mousemove", str(x), str(y), "mousedown", "1")
@@ -87,8 +65,8 @@ class Editor(unittest.TestCase):
     def colours_in_picture(self, title: str, area: str) -> int:
         with sqlite3.connect(f"file:{self.rook.store}?mode=ro", uri=True) as store:
             (name,), = store.execute("SELECT screenshotFilename FROM Window WHERE title = ?", (title,))
-        picture, = self.desktop.session.data.rglob(name)
-        return int(self.desktop.session.run("convert", str(picture), "-crop", area, "-format", "%k", "info:"))
+        picture, = self.session.data.rglob(name)
+        return int(self.session.run("convert", str(picture), "-crop", area, "-format", "%k", "info:"))
 
     # Tests
 
@@ -96,14 +74,10 @@ class Editor(unittest.TestCase):
         self.assertEqual(self.colours_in_picture("second shell", "400x200+60+80"), 1, "the progress is in the picture")
         first, second = self.names()
         self.press("alt+p", "Down", "alt+w", "Down", "F2")
-        self.type("Kitchen & <b>sink")
+        self.probe.type("Kitchen & <b>sink")
         self.press("Return")
         self.wait_for_names(first, "Kitchen & <b>sink")
         self.press("alt+Up")
-        self.wait_for_names("Kitchen & <b>sink", first)
-        self.press("Delete")
-        self.wait_for_names(first)
-        self.press("ctrl+z")
         self.wait_for_names("Kitchen & <b>sink", first)
         self.drag_first_window_to_the_end()
         self.wait_for_names(first, "Kitchen & <b>sink")
@@ -111,9 +85,9 @@ class Editor(unittest.TestCase):
         whole = self.applications()
         self.press("alt+p", "Delete", "Delete")
         wait_until(lambda: self.rook.report("list")["workspaces"] == [], "the workspace to go with its last window")
-        self.wait_for_window("Stored Windows")
+        self.probe.wait_for_focus("Stored Windows")
         self.press("ctrl+z", "ctrl+z")
-        self.wait_for_window("2 Displays")
+        self.probe.wait_for_focus("2 Displays")
         wait_until(lambda: self.applications() == whole, "everything to be back")
         self.press("Escape")
         wait_until(lambda: self.editor not in self.probe.client_list(), "the editor to close")
@@ -122,11 +96,11 @@ class Editor(unittest.TestCase):
         self.assertEqual(self.applications(), whole)
 
     def test_actions(self) -> None:
-        ran = self.desktop.session.home / "ran"
+        ran = self.session.home / "ran"
         self.add_shell_script("m", "o", "u", "n", "t", "Return")
         wait_until(lambda: self.actions() == [("mount", "#!/bin/bash\n\n")], "the action")
         self.press("alt+s", "ctrl+End")
-        self.type(f"touch {ran}; sleep 1")
+        self.probe.type(f"touch {ran}; sleep 1")
         self.press("alt+n")
         wait_until(ran.exists, "the script to run")
         self.press("x", "Return", "ctrl+a", "Delete")  # Nobody listens.

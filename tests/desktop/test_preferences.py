@@ -1,49 +1,29 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
-"""The preferences with real keys: the login item, the icon that comes back, a hot key that is recorded."""
-from __future__ import annotations
-
-import os
-import subprocess
-import sys
+"""The preferences with real keys: the icon that comes back, a hot key that is recorded."""
 import unittest
-from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).resolve().parent.parent.parent / "tools"))
-from rig.desktop import Desktop  # noqa: E402
-from rig.displays import keyboard_is_free  # noqa: E402
-from rig.probe import Frame  # noqa: E402
-from rig.processes import wait_until  # noqa: E402
-from rig.resident import Resident, hot_key  # noqa: E402
-from rig.scenario import frames, open_windows, scatter  # noqa: E402
+from desktop_test import DesktopTest
+from rig.displays import keyboard_is_free
+from rig.probe import Frame
+from rig.processes import wait_until
+from rig.resident import hot_key
+from rig.scenario import frames, open_windows, scatter
 
-SETTINGS = {"ShowMenuHotKey": hot_key(46, 0x1000 | 0x800)}
 WINDOWS = (("xterm", "shell", Frame(60, 80, 520, 340)), ("featherpad", "notes.txt", Frame(700, 310, 555, 444)))
 
 
-class Preferences(unittest.TestCase):
+class Preferences(DesktopTest):
+    layout, has_tray = "single", True
+    settings = {"ShowMenuHotKey": hot_key(46, 0x1000 | 0x800)}
+
     def setUp(self) -> None:
-        self.desktop = Desktop(os.environ.get("ROOK_TEST_MANAGER", "openbox"), "single", tray=True)
-        self.addCleanup(self.desktop.close)
-        self.probe, self.session = self.desktop.probe, self.desktop.session
-        self.rook = Resident(self.session, headless=False, settings=SETTINGS)
-        self.entries = self.session.config / "autostart"
+        super().setUp()
+        self.press = self.probe.press
 
-    def open(self, command: str = "preferences", title: str = "Preferences") -> int:
+    def open(self, command: str = "preferences", title: str = "Preferences") -> None:
         self.rook.do(command)
-        return wait_until(lambda: next((int(window) for window in self.search(title)
-                                        if self.probe.active_window() == int(window)), None), f"{title} in front", 15.0)
-
-    def search(self, title: str) -> list[str]:
-        return self.probe.tool("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split()
-
-    def press(self, *keys: str) -> None:
-        for key in keys:
-            self.probe.tool("xdotool", "key", key)
-
-    def picture(self, window: int) -> bytes:
-        return subprocess.run(["import", "-silent", "-window", str(window), "rgb:-"], env=self.session.environment,
-                              capture_output=True, check=True).stdout
+        self.probe.wait_for_focus(title)
 
     def has_icon(self) -> bool:
         return '"rook": ("rook" "rook")' in self.probe.tool("xwininfo", "-root", "-tree")
@@ -53,26 +33,9 @@ class Preferences(unittest.TestCase):
 
     def record(self, *keys: str) -> None:
         self.press("Return")
-        wait_until(lambda: not keyboard_is_free(self.desktop.server.display), "the recorder to listen")
+        wait_until(lambda: not keyboard_is_free(self.server.display), "the recorder to listen")
         self.press(*keys)
-        wait_until(lambda: keyboard_is_free(self.desktop.server.display), "the recorder to be done")
-
-    def test_start_at_login_follows_the_login_items(self) -> None:
-        window = self.open()
-        entry = self.entries / "org.rook.Rook.desktop"
-        self.press("alt+l")
-        wait_until(entry.exists, "the login item")
-        self.assertIn(f'Exec="{self.rook.binary}"\n', entry.read_text())
-        self.press("alt+l")
-        wait_until(lambda: not entry.exists(), "the login item to go")
-        off = self.picture(window)
-        self.entries.joinpath("mine.desktop").write_text(f"[Desktop Entry]\nType=Application\nExec={self.rook.binary}\n")
-        wait_until(lambda: self.picture(window) != off, "the box to be ticked by another program")
-        entry.write_text("[Desktop Entry]\nHidden=true\n")
-        self.entries.joinpath("mine.desktop").unlink()
-        wait_until(lambda: self.picture(window) == off, "the box to be unticked by another program")
-        self.press("alt+l")
-        wait_until(lambda: "Hidden" not in entry.read_text(), "the login item to be back")
+        wait_until(lambda: keyboard_is_free(self.server.display), "the recorder to be done")
 
     def test_the_window_that_is_asked_for_comes_to_the_front(self) -> None:
         opened = open_windows(self.desktop, WINDOWS[:1])
@@ -90,7 +53,7 @@ class Preferences(unittest.TestCase):
         self.press("alt+h")
         wait_until(lambda: not self.has_icon(), "the icon to go")
         self.press("ctrl+alt+m")
-        wait_until(lambda: self.search("Rook Menu"), "the menu", 10.0)
+        wait_until(lambda: self.probe.shown("Rook Menu"), "the menu", 10.0)
         self.press("Escape")
         self.open()
         self.press("ctrl+Tab", "alt+m", "Delete")
@@ -109,12 +72,12 @@ class Preferences(unittest.TestCase):
         self.session.run("setxkbmap", "fr")
         self.record("a", "ctrl+alt+m")
         wait_until(lambda: self.hot_keys()["RestoreAllWindowsHotKey"] == "Ctrl+Alt+M", "the conflict to be stored")
-        self.assertFalse(self.search("Rook Menu"))
+        self.assertFalse(self.probe.shown("Rook Menu"))
         self.record("Escape")
         self.record("ctrl+shift+eacute")
         wait_until(lambda: self.hot_keys()["RestoreAllWindowsHotKey"] == "Ctrl+Shift+É", "the hot key", 10.0)
         self.press("Escape")
-        wait_until(lambda: not self.search("Preferences"), "the preferences to close")
+        wait_until(lambda: not self.probe.shown("Preferences"), "the preferences to close")
         self.press("ctrl+shift+eacute")
         wait_until(lambda: frames(self.desktop, opened) == stored, "the windows to be back", 20.0, 0.2)
 

@@ -1,54 +1,39 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
 """Keys and clicks as a user makes them: hot keys, the tray icon, the menu, the buttons of alerts."""
-from __future__ import annotations
-
-import os
 import re
-import sys
 import unittest
-from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).resolve().parent.parent.parent / "tools"))
-from rig.desktop import Desktop  # noqa: E402
-from rig.probe import Frame  # noqa: E402
-from rig.processes import wait_until  # noqa: E402
-from rig.resident import Resident, hot_key  # noqa: E402
-from rig.scenario import frames, open_windows, scatter  # noqa: E402
+from desktop_test import DesktopTest
+from rig.probe import Frame
+from rig.processes import wait_until
+from rig.resident import hot_key
+from rig.scenario import frames, open_windows, scatter
 
 CONTROL_OPTION = 0x1000 | 0x800
-SETTINGS = {"RestoreAllWindowsHotKey": hot_key(15, CONTROL_OPTION), "StoreAllWindowsHotKey": hot_key(0, CONTROL_OPTION),
-            "StoreActiveWindowHotKey": hot_key(13, CONTROL_OPTION), "ShowMenuHotKey": hot_key(46, CONTROL_OPTION)}
 WINDOWS = (("xterm", "shell", Frame(60, 80, 520, 340)), ("featherpad", "notes.txt", Frame(2100, 310, 555, 444)))
 
 
-class RealInput(unittest.TestCase):
+class RealInput(DesktopTest):
+    has_tray = True
+    settings = {"RestoreAllWindowsHotKey": hot_key(15, CONTROL_OPTION), "StoreAllWindowsHotKey": hot_key(0, CONTROL_OPTION),
+                "StoreActiveWindowHotKey": hot_key(13, CONTROL_OPTION), "ShowMenuHotKey": hot_key(46, CONTROL_OPTION)}
+
     def setUp(self) -> None:
-        self.desktop = Desktop(os.environ.get("ROOK_TEST_MANAGER", "openbox"), "two", tray=True)
-        self.addCleanup(self.desktop.close)
-        self.probe = self.desktop.probe
-        self.rook = Resident(self.desktop.session, headless=False, settings=SETTINGS)
+        super().setUp()
+        self.press = self.probe.press
         self.opened = open_windows(self.desktop, WINDOWS)
         self.rook.do("store-all")
         self.stored = frames(self.desktop, self.opened)
 
-    def press(self, *keys: str) -> None:
-        for key in keys:
-            self.probe.tool("xdotool", "key", key)
-
-    def windows(self, title: str) -> list[str]:
-        return self.probe.tool("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split()
-
     def wait_for_window(self, title: str) -> None:
-        wait_until(lambda: self.windows(title), f"the window {title}", 10.0)
+        wait_until(lambda: self.probe.shown(title), f"the window {title}")
 
     def answer(self, *keys: str) -> None:
         """Answers the alert that is in front once it has the focus."""
-        self.wait_for_window("Rook")
-        alert = int(self.windows("Rook")[0])
-        wait_until(lambda: self.probe.active_window() == alert, "the alert to have the focus", 10.0)
+        alert = self.probe.wait_for_focus("Rook")
         self.press(*keys)
-        wait_until(lambda: str(alert) not in self.windows("Rook"), "the alert to close", 10.0)
+        wait_until(lambda: alert not in self.probe.shown("Rook"), "the alert to close")
 
     def wait_for(self, expected: dict[str, Frame]) -> None:
         wait_until(lambda: frames(self.desktop, self.opened) == expected, "the windows to be back", 20.0, 0.2)
@@ -85,19 +70,19 @@ class RealInput(unittest.TestCase):
         def icon() -> re.Match[str] | None:
             tree = self.probe.tool("xwininfo", "-root", "-tree")
             return re.search(r'"rook": \("rook" "rook"\)  (\d+)x\d+\+\d+\+\d+  \+(\d+)\+(\d+)', tree)
-        found = wait_until(icon, "the icon in the tray", 10.0)
+        found = wait_until(icon, "the icon in the tray")
         size, x, y = (int(number) for number in found.groups())
-        for button in ("1", "3"):
-            self.probe.tool("xdotool", "mousemove", str(x + size // 2), str(y + size // 2), "click", button)
+        for button in (1, 3):
+            self.probe.click(x + size // 2, y + size // 2, button)
             self.wait_for_window("Rook Menu")
             self.press("Escape")
-            wait_until(lambda: not self.windows("Rook Menu"), "the menu to close", 10.0)
-        for keys, reached in ((["Up", "Up", "Return"], lambda: self.windows("About Rook")),
+            wait_until(lambda: not self.probe.shown("Rook Menu"), "the menu to close")
+        for keys, reached in ((["Up", "Up", "Return"], lambda: self.probe.shown("About Rook")),
                               (["Up", "Return"], lambda: self.rook.run("status").returncode == 3)):
             self.press("ctrl+alt+m")
             self.wait_for_window("Rook Menu")
             self.press(*keys)
-            wait_until(reached, f"what {keys} choose", 10.0)
+            wait_until(reached, f"what {keys} choose")
 
 
 if __name__ == "__main__":

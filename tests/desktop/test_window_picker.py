@@ -2,33 +2,27 @@
 # SPDX-License-Identifier: MIT
 """The window picker with real keys and clicks: nothing typed reaches another program while it is open,
 everything does afterwards, however it ended; a click on a picture makes a link."""
-from __future__ import annotations
-
 import ctypes
-import os
 import signal
 import sqlite3
-import sys
 import unittest
-from pathlib import Path
 
-sys.path.insert(0, str(Path(__file__).resolve().parent.parent.parent / "tools"))
-from rig.desktop import Desktop  # noqa: E402
-from rig.displays import connection, keyboard_is_free  # noqa: E402
-from rig.probe import Frame  # noqa: E402
-from rig.processes import wait_until  # noqa: E402
-from rig.resident import Resident, hot_key  # noqa: E402
+from desktop_test import DesktopTest
+from rig.displays import connection, keyboard_is_free
+from rig.probe import Frame
+from rig.processes import wait_until
+from rig.resident import hot_key
 
 TITLES = ("one", "two", "three")
-SHORTCUT, SETTINGS = "ctrl+alt+l", {"LinkActiveWindowHotKey": hot_key(37, 0x1000 | 0x800)}
+SHORTCUT = "ctrl+alt+l"
 
 
-class WindowPicker(unittest.TestCase):
+class WindowPicker(DesktopTest):
+    settings = {"LinkActiveWindowHotKey": hot_key(37, 0x1000 | 0x800)}
+
     def setUp(self) -> None:
-        self.desktop = Desktop(os.environ.get("ROOK_TEST_MANAGER", "openbox"), "two")
-        self.addCleanup(self.desktop.close)
-        self.probe, self.server = self.desktop.probe, self.desktop.server
-        self.rook = Resident(self.desktop.session, headless=False, settings=SETTINGS)
+        super().setUp()
+        self.press, self.click = self.probe.press, self.probe.click
         self.windows = {title: self.open_typist(title, Frame(60 + 400 * index, 80 + 150 * index, 520 + 40 * index, 340))
                         for index, title in enumerate(TITLES)}
         self.rook.do("store-all")
@@ -37,22 +31,16 @@ class WindowPicker(unittest.TestCase):
 
     def open_typist(self, title: str, frame: Frame) -> int:
         """A terminal that writes whatever is typed into a file."""
-        file = self.desktop.session.home / title
+        file = self.session.home / title
         before = set(self.probe.client_list())
         script = f"stty -icanon -echo; printf '\\033[31mThis is {title}'; cat >'{file}'"
-        self.desktop.session.start(f"xterm-{title}", ["xterm", "-T", title, "-e", "sh", "-c", script])
+        self.session.start(f"xterm-{title}", ["xterm", "-T", title, "-e", "sh", "-c", script])
         window, = self.probe.wait_until_managed(lambda: set(self.probe.client_list()) - before, title, 20.0)
         wait_until(file.exists, f"{title} to read")
         self.probe.place(window, frame)
         return int(window)
 
     # Acting
-
-    def press(self, *keys: str) -> None:
-        self.probe.tool("xdotool", "key", *keys)
-
-    def click(self, x: float, y: float) -> None:
-        self.probe.tool("xdotool", "mousemove", str(round(x)), str(round(y)), "click", "1")
 
     def open_picker(self) -> None:
         self.press(SHORTCUT)
@@ -66,8 +54,7 @@ class WindowPicker(unittest.TestCase):
 
     def open_about(self) -> None:
         self.rook.do("about")
-        about = wait_until(lambda: self.probe.tool("xdotool", "search", "--onlyvisible", "--name", "^About Rook$"), "About")
-        wait_until(lambda: self.probe.active_window() == int(about), "About to have the focus")
+        self.probe.wait_for_focus("About Rook")
         self.assertEqual(self.overlays(), [])
 
     def open_about_twice(self) -> None:
@@ -79,11 +66,8 @@ class WindowPicker(unittest.TestCase):
 
     # Looking
 
-    def overlays(self) -> list[str]:
-        return self.probe.tool("xdotool", "search", "--onlyvisible", "--name", "^Rook Window Picker$").split()
-
-    def questions(self) -> list[str]:
-        return self.probe.tool("xdotool", "search", "--onlyvisible", "--name", "^Rook$").split()
+    def overlays(self) -> list[int]:
+        return self.probe.shown("Rook Window Picker")
 
     def stored(self) -> list[str]:
         workspace, = self.rook.report("list")["workspaces"]
@@ -107,7 +91,7 @@ class WindowPicker(unittest.TestCase):
         self.assertEqual([self.text(title) for title in TITLES], [self.typed, "", ""])
 
     def text(self, title: str) -> str:
-        return (self.desktop.session.home / title).read_text()
+        return (self.session.home / title).read_text()
 
     # Tests
 
@@ -158,14 +142,14 @@ class WindowPicker(unittest.TestCase):
         target = self.probe.frame(self.windows["two"])
         self.open_picker()
         self.click_picture(order.index("two"))
-        wait_until(self.questions, "the question")
+        wait_until(lambda: self.probe.shown("Rook"), "the question")
         self.assertEqual(self.overlays(), [])
         self.press("Escape")
         self.check_closed()
         self.assertEqual(self.stored(), order)
         self.open_picker()
         self.click_picture(order.index("two"))
-        wait_until(lambda: str(self.probe.active_window()) in self.questions(), "the question to have the focus")
+        self.probe.wait_for_focus("Rook")
         self.press("Return")
         wait_until(lambda: self.stored() == ["two", "three"], "the link")
         wait_until(lambda: self.probe.frame(self.focused) == target, "the window to stand where it belongs")

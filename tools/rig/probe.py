@@ -160,6 +160,28 @@ class Probe:
         value = re.search(r"0x[0-9a-f]+", self.tool("xprop", "-root", "-notype", "_NET_ACTIVE_WINDOW"))
         return int(value.group(), 16) if value else 0
 
+    def shown(self, title: str) -> list[int]:
+        """The windows with this title that are on the screen, those that no manager manages included."""
+        return [int(word) for word in
+                self.tool("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split()]
+
+    def wait_for_focus(self, title: str, deadline: float = 20.0) -> int:
+        """The window with this title once it is active."""
+        return wait_until(lambda: self.active_window() if self.active_window() in self.shown(title) else 0,
+                          f"the window {title} to have the focus", deadline)
+
+    # Typing and clicking, as a user does
+
+    def press(self, *keys: str) -> None:
+        """Keys as xdotool names them, one after the other; its options may stand before them."""
+        self.tool("xdotool", "key", *keys)
+
+    def type(self, text: str) -> None:
+        self.tool("xdotool", "type", text)
+
+    def click(self, x: float, y: float, button: int = 1) -> None:
+        self.tool("xdotool", "mousemove", str(round(x)), str(round(y)), "click", str(button))
+
     # Changing; each returns when the change can be read back
 
     def wait_for(self, identifier: int, condition: Callable[[Window], bool], what: str,
