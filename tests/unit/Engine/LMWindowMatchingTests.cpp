@@ -61,25 +61,6 @@ TEST_F(MatchingTest, ScoresLikenessOfTwoWindows) {
     }
 }
 
-TEST_F(MatchingTest, ScoresStoredWindows) {
-    LMWindow& live = window(u"Doc 1"_s);
-    constexpr quint64 inexact = 4294967295;
-    const std::tuple<LMStoredWindow*, unsigned, quint64> rows[] = {
-        {storedWindow(u"Doc 1"_s), 5, 0},
-        {storedWindow(u"Doc 2"_s), 3, inexact},
-        {storedWindow(QString()), 3, 0},
-        {storedWindow(u"Doc 2"_s, u"^Doc \\d$"_s), 9, inexact},
-        {storedWindow(u"Doc 1"_s, u"oc"_s), 11, 0},
-        {storedWindow(u"Doc 1"_s, u"(oc"_s), 5, 0},
-        {storedPattern(u".*"_s), 6, inexact},
-        {storedPattern(QString()), 0, inexact},
-    };
-    for (const auto& [stored, score, distance] : rows) {
-        EXPECT_EQ(stored->windowMatchScore(live), score) << stored->title().toStdString();
-        EXPECT_EQ(stored->titleStringEditDistance(live), distance);
-    }
-}
-
 TEST_F(MatchingTest, TakesTheBestCandidateAndMovesItToTheEnd) {
     LMWindow& live = window();
     auto *a = storedWindow(u"A"_s), *b = storedWindow(u"B"_s), *c = storedWindow(u"C"_s);
@@ -90,26 +71,33 @@ TEST_F(MatchingTest, TakesTheBestCandidateAndMovesItToTheEnd) {
     EXPECT_THAT(candidates, ElementsAre(unlike, b, c, a));
 }
 
-TEST_F(MatchingTest, SaysWhatDecided) {
+TEST_F(MatchingTest, ScoresStoredWindowsAndSaysWhatDecided) {
     LMWindow& live = window();
     auto *exact = storedWindow(u"Doc"_s), *other = storedWindow(u"Other"_s);
     // An absent title counts as exact, wherever it stands.
     auto *untitled = storedWindow(QString()), *pattern = storedWindow(u"Other"_s, u"D"_s);
+    auto *both = storedWindow(u"Doc"_s, u"^Do"_s), *broken = storedWindow(u"Doc"_s, u"(oc"_s);
+    auto *any = storedPattern(u".*"_s), *unlike = storedPattern(u"^other"_s);
     using Candidates = std::vector<LMStoredWindow*>;
-    const std::tuple<Candidates, LMStoredWindow*, LMTieBreak> rows[] = {
-        {{other, exact}, exact, LMTieBreak::None},
-        {{exact, exact}, exact, LMTieBreak::Order},
-        {{other, untitled, other}, untitled, LMTieBreak::Title},
-        {{exact, pattern}, pattern, LMTieBreak::None},
-        {{storedPattern(u"^other"_s)}, nullptr, LMTieBreak::None},
+    const std::tuple<Candidates, LMStoredWindow*, unsigned, LMTieBreak> rows[] = {
+        {{other, exact}, exact, 5, LMTieBreak::None},
+        {{exact, exact}, exact, 5, LMTieBreak::Order},
+        {{other, untitled, other}, untitled, 3, LMTieBreak::Title},
+        {{exact, any}, any, 6, LMTieBreak::None},
+        {{any, pattern}, pattern, 9, LMTieBreak::None},
+        {{pattern, both}, both, 11, LMTieBreak::None},
+        {{broken}, broken, 5, LMTieBreak::None},
+        {{unlike}, nullptr, 0, LMTieBreak::None},
     };
-    for (const auto& [candidates, best, tieBreak] : rows) {
+    for (const auto& [candidates, best, score, tieBreak] : rows) {
         const auto match =
             LMWindowMatcher(candidates, environment.regexCache).bestMatchForWindow(live);
         EXPECT_EQ(match.storedWindow, best);
+        EXPECT_EQ(match.score, score);
+        EXPECT_EQ(best ? best->windowMatchScore(live) : 0, score);
         EXPECT_EQ(match.tieBreak, tieBreak);
-        EXPECT_EQ(match.pattern, best == pattern);
-        EXPECT_EQ(match.likeness.title, best == exact);
+        EXPECT_EQ(match.pattern, score >= LMPatternScore);
+        EXPECT_EQ(match.likeness.title, best && best->title() == live.title());
     }
 }
 
