@@ -4,7 +4,6 @@
 #include "Model/LMStoredWindow.h"
 #include "Model/LMWindow.h"
 #include "Model/LMWorkspace.h"
-#include "Model/Store/LMObjectContext.h"
 #include "unit/Files.h"
 #include "unit/UserInterface/UserInterfaceTest.h"
 #include "UserInterface/Editing/LMScriptEditor.h"
@@ -14,7 +13,6 @@
 #include "UserInterface/Editing/LMTableView.h"
 #include "UserInterface/LMAlertWindow.h"
 #include "UserInterface/LMStoredWindowsEditor.h"
-#include "Utilities/LMNotificationCenter.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -31,11 +29,9 @@ protected:
     using Model = LMStoredWindowsModel;
 
     StoredWindowsEditor() {
-        test.notificationCenter.addObserver(LMNotification::SaveWindows, &application,
-                                            [this] { store.saveWindows(); });
         store.setReloadTablesHandler([this] { editor.reloadTableViews(); });
         store.setCommitEditingHandler([this] { return editor.commitEditing(); });
-        workspace = context.insertObject<LMWorkspace>();
+        workspace = context().insertObject<LMWorkspace>();
         addApplication(u"Editor"_s, {u"a"_s, u"b"_s, u"c"_s});
         addApplication(u"browser"_s, {u"news"_s});
         store.saveWindows();
@@ -47,12 +43,12 @@ protected:
     }
 
     void addApplication(const QString& name, const QStringList& titles) {
-        auto* added = context.insertObject<LMApplication>();
+        auto* added = context().insertObject<LMApplication>();
         added->setName(name);
         added->setBundleIdentifier(u"org."_s + name);
         workspace->addApplicationsObject(added);
         for (const QString& title : titles) {
-            auto* window = context.insertObject<LMWindow>();
+            auto* window = context().insertObject<LMWindow>();
             window->setTitle(title);
             window->setSubrole(u"AXStandardWindow"_s);
             window->setChildren(QStringList());
@@ -90,20 +86,13 @@ protected:
         table.setFocus();
         table.setCurrentIndex(table.model()->index(row, column));
     }
-    /// The texts of a column of the windows.
-    QString column(int column) {
-        QStringList texts;
-        for (int row = 0; row < windows().model()->rowCount(); ++row)
-            texts.append(windows().model()->index(row, column).data().toString());
-        return texts.join(u' ');
-    }
-    QString titles() { return column(Model::Title); }
+    QString texts(int column) { return this->column(windows(), column).join(u' '); }
+    QString titles() { return texts(Model::Title); }
     const std::vector<LMAction*>& scripts() { return std::as_const(*workspace).actions(); }
     LMStoredWindow* stored(const QString& name, std::size_t index = 0) {
         return workspace->applicationForBundleIdentifier(u"org."_s + name)->orderedWindows()[index];
     }
 
-    LMObjectContext& context = store.managedObjectContext();
     LMStoredWindowsEditor editor{environment, store};
     LMWorkspace* workspace = nullptr;
 };
@@ -131,12 +120,12 @@ TEST_F(StoredWindowsEditor, ChangesStatesAndTakesThatBack) {
             if (action->text() == entry)
                 action->trigger();
         }
-        EXPECT_EQ(column(Model::State), expected);
-        EXPECT_FALSE(context.hasChanges());
+        EXPECT_EQ(texts(Model::State), expected);
+        EXPECT_FALSE(context().hasChanges());
     }
     for (std::size_t row = std::size(rows) - 1; row > 0; --row) {
         undo();
-        EXPECT_EQ(column(Model::State), rows[row - 1].second);
+        EXPECT_EQ(texts(Model::State), rows[row - 1].second);
         EXPECT_EQ(edited->state()->window.normalFrame.has_value(),
                   edited->state()->window.isMaximized());
     }
@@ -160,8 +149,8 @@ TEST_F(StoredWindowsEditor, EditsLabelsAndPatternsWithTheKeyboard) {
         endEdit(end);
         EXPECT_EQ(stored(u"Editor"_s, row)->label(), label);
         EXPECT_EQ(stored(u"Editor"_s, row)->titleRegularExpression(), pattern);
-        EXPECT_FALSE(context.hasChanges());
-        EXPECT_LT(this->column(Model::Label).size(), 1200);
+        EXPECT_FALSE(context().hasChanges());
+        EXPECT_LT(texts(Model::Label).size(), 1200);
     }
     edit(2, Model::Pattern, {});
     for (const QString& key : {u"("_s, u"a"_s, u")"_s}) {
@@ -187,14 +176,14 @@ TEST_F(StoredWindowsEditor, KeepsWhatIsBeingTypedWhenTheStoreChanges) {
 
     // The workspace itself is deleted while a label is typed.
     edit(0, Model::Label, u"lost"_s);
-    context.deleteObject(workspace);
+    context().deleteObject(workspace);
     store.saveWindows();
     for (const LMTableView* table : {&applications(), &windows(), &actions()})
         EXPECT_EQ(table->model()->rowCount(), 0);
     EXPECT_FALSE(window().addActionButton()->isEnabled());
     editor.addAction(2);
     editor.remove(&windows());
-    EXPECT_TRUE(context.objects<LMWorkspace>().empty());
+    EXPECT_TRUE(context().objects<LMWorkspace>().empty());
     editor.close();
     editor.close();
     EXPECT_EQ(editor.window(), nullptr);
@@ -217,18 +206,18 @@ TEST_F(StoredWindowsEditor, RemovesByKeyAndTakesItBack) {
         QTest::keyClick(table, key);
         EXPECT_EQ(titles(), shown);
     }
-    EXPECT_TRUE(context.objects<LMWorkspace>().empty());
+    EXPECT_TRUE(context().objects<LMWorkspace>().empty());
     while (!before.isEmpty()) {
         undo();
         EXPECT_EQ(titles(), before.takeLast()) << "what came back last is shown";
     }
     redo();
-    EXPECT_EQ(context.objects<LMApplication>().size(), 1U) << "done again";
+    EXPECT_EQ(context().objects<LMApplication>().size(), 1U) << "done again";
 
     // What belongs to another workspace cannot be taken back here.
-    editor.setWorkspace(context.insertObject<LMWorkspace>());
+    editor.setWorkspace(context().insertObject<LMWorkspace>());
     undo();
-    EXPECT_EQ(context.objects<LMApplication>().size(), 1U);
+    EXPECT_EQ(context().objects<LMApplication>().size(), 1U);
 }
 
 TEST_F(StoredWindowsEditor, TakesBackNothingThatIsStoredAgain) {
@@ -270,7 +259,7 @@ TEST_F(StoredWindowsEditor, ReordersByKey) {
     for (const auto& [key, expected] : rows) {
         QTest::keyClick(&windows(), key, Qt::AltModifier);
         EXPECT_EQ(titles(), expected);
-        EXPECT_FALSE(context.hasChanges());
+        EXPECT_FALSE(context().hasChanges());
     }
     EXPECT_EQ(windows().currentIndex().row(), 1);
 }
@@ -293,13 +282,13 @@ TEST_F(StoredWindowsEditor, AddsActionsAndWritesTheirScriptsAsTheyAreTyped) {
     EXPECT_EQ(scripts()[0]->runAs() + scripts()[0]->script(), u"AppleScriptbeep"_s);
     EXPECT_EQ(scripts()[1]->script(), u"#!/bin/bash\n\necho\u00a0hi"_s);
     QTest::keyClick(&script(), Qt::Key_Backtab, Qt::ShiftModifier);
-    EXPECT_FALSE(context.hasChanges()) << "leaving the script ends its editing";
+    EXPECT_FALSE(context().hasChanges()) << "leaving the script ends its editing";
     select(actions(), 0);
     QTest::keyClick(&actions(), Qt::Key_Delete);
     select(actions(), 0, 2);
     QTest::keyClick(&actions(), Qt::Key_Space);
     EXPECT_TRUE(scripts()[0]->runOnDisplayChange());
-    EXPECT_FALSE(context.hasChanges());
+    EXPECT_FALSE(context().hasChanges());
 }
 
 TEST_F(StoredWindowsEditor, RunsActionsAndShowsWhatBecameOfTheirScripts) {
@@ -309,7 +298,7 @@ TEST_F(StoredWindowsEditor, RunsActionsAndShowsWhatBecameOfTheirScripts) {
     editor.runAction();
     EXPECT_TRUE(QFile::exists(file));
     EXPECT_EQ(script().toPlainText(), u"#!/bin/bash\n\necho yes > '%1'"_s.arg(file));
-    EXPECT_FALSE(context.hasChanges());
+    EXPECT_FALSE(context().hasChanges());
 }
 
 TEST_F(StoredWindowsEditor, ShowsOnlyTheBeginningOfScriptsThatAreTooLongToEdit) {

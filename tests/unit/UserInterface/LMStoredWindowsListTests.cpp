@@ -38,11 +38,8 @@ class StoredWindowsList : public UserInterfaceTest {
 protected:
     static constexpr QRectF Main{0, 0, 1920, 1080};
 
-    void SetUp() override {
-        center.addObserver(LMNotification::SaveWindows, &application, [this] {
-            store.saveWindows();
-            list.reloadTableViews();
-        });
+    StoredWindowsList() {
+        store.setReloadTablesHandler([this] { list.reloadTableViews(); });
     }
 
     void add(const QString& name, const QList<QRectF>& bounds, int windows = 0) {
@@ -56,16 +53,10 @@ protected:
         store.saveWindows();
     }
 
-    LMObjectContext& context() { return store.managedObjectContext(); }
     QTreeView& view() { return *list.window()->findChild<QTreeView*>(); }
     QAction& action(const QString& name) { return *list.window()->findChild<QAction*>(name); }
     void select(int row) { view().setCurrentIndex(view().model()->index(row, 0)); }
-    QStringList texts(int column) {
-        QStringList texts;
-        for (int row = 0; row < view().model()->rowCount(); ++row)
-            texts.append(view().model()->index(row, column).data().toString());
-        return texts;
-    }
+    QStringList texts(int column) { return this->column(view(), column); }
     void expectNothingCanBeDone() {
         for (const char* name : {"edit", "rename", "makeActive", "delete"})
             EXPECT_FALSE(action(QLatin1String(name)).isEnabled()) << name;
@@ -78,7 +69,6 @@ protected:
     }
     LMAlertWindow* sheet() { return list.window()->findChild<LMAlertWindow*>(); }
 
-    LMNotificationCenter& center = test.notificationCenter;
     LMStoredWindowsList list{environment, store};
 };
 
@@ -123,7 +113,7 @@ TEST_F(StoredWindowsList, AWorkspaceIsRenamedInPlace) {
         field->selectAll();
         field->insert(typed);
         // Something else is saved in the middle of it, and a display is unplugged.
-        center.postNotification(LMNotification::SaveWindows);
+        test.notificationCenter.postNotification(LMNotification::SaveWindows);
         EXPECT_EQ(context().objects<LMWorkspace>().at(0)->name(), stored);
         desktop.setScreens({{0, 0, 1440, 900}});
         desktop.announceScreenChange();

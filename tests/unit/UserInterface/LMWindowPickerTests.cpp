@@ -4,7 +4,6 @@
 #include "Model/LMStoredWindow.h"
 #include "Model/LMWindow.h"
 #include "Model/LMWorkspace.h"
-#include "Model/Store/LMObjectContext.h"
 #include "unit/Files.h"
 #include "unit/UserInterface/UserInterfaceTest.h"
 #include "UserInterface/WindowLinking/LMStoredWindowPicker.h"
@@ -21,10 +20,6 @@ class WindowPicker : public UserInterfaceTest {
 protected:
     WindowPicker() {
         defaults.setObject(Keys::FloatingWindowActivationDelay, 0.0);
-        test.notificationCenter.addObserver(LMNotification::SaveWindows, &application, [this] {
-            store.saveWindows();
-            ++saves;
-        });
         storeAll();
     }
 
@@ -36,7 +31,6 @@ protected:
             QCoreApplication::sendPostedEvents();
     }
 
-    LMObjectContext& context() { return store.managedObjectContext(); }
     LMWorkspace& workspace() { return *context().objects<LMWorkspace>().front(); }
     LMApplication& editor() { return *workspace().applicationForBundleIdentifier(u"org.editor"_s); }
     /// The stored windows with what each is recognised by.
@@ -88,7 +82,6 @@ protected:
         return window;
     }
 
-    int saves = 0;
     LMStoredWindowPicker picker{environment, store, userInterface};
 };
 
