@@ -72,8 +72,11 @@ void LMApplicationDelegate::failLaunching(const QString& message, const QString&
     if (!m_parts.userInterface.canShowWindows())
         return;
     m_parts.userInterface.activateIgnoringOtherApplications();
+    // The text advises to remove the file; who sees that another session uses it will not.
+    const QStringList texts =
+        detail.isEmpty() ? QStringList{informativeText} : QStringList{informativeText, detail};
     m_parts.userInterface.runModal(
-        {message, informativeText, {LMStoredWindowsStore::quitButtonText()}});
+        {message, texts.join(QLatin1String("\n\n")), {LMStoredWindowsStore::quitButtonText()}});
 }
 
 // Logging was set up when the logger was made: what happens before must not get lost.

@@ -50,6 +50,7 @@ TEST_F(LifecycleTest, AStoreThatCannotBeHadEndsTheLaunchAndIsLeftAlone) {
     LMWriteFile(test.folders.storedWindowsURL(), "not a store");
     EXPECT_FALSE(delegate.finishLaunching());
     EXPECT_TRUE(userInterface.alerts.value(0).startsWith(u"Unable to load stored windows.|There "));
+    EXPECT_TRUE(userInterface.alerts.value(0).contains(test.folders.storedWindowsURL())) << "why";
     EXPECT_TRUE(delegate.launchFailure().contains(u"Unable to load"));
     delegate.applicationWillTerminate();
     EXPECT_EQ(userInterface.calls.last(), u"no icon"_s);
