@@ -34,7 +34,7 @@ bool hasBrokenLine(const QByteArray& text) {
         const bool isSection = content.startsWith('[') && content.endsWith(']');
         const bool isComment = content.startsWith(';');
         if (!isContinued && !content.isEmpty() && !isSection && !isComment &&
-            !content.contains('='))
+            content.indexOf('=') <= 0)
             return true;
         isContinued = content.endsWith('\\');
     }
@@ -57,8 +57,10 @@ std::optional<QVariantMap> readSettings(const QString& path) {
         QVariantMap values;
         const QSettings reader(path, QSettings::IniFormat);
         const QStringList keys = reader.allKeys();
-        for (const QString& key : keys)
-            values.insert(key, reader.value(key));
+        for (const QString& key : keys) {
+            if (!key.isEmpty()) // It reads these, but writes none.
+                values.insert(key, reader.value(key));
+        }
         return values;
     } catch (const std::bad_alloc&) {
         return std::nullopt;
@@ -148,6 +150,7 @@ Status LMSettingsFile::keepCopyOfMalformedFile() {
         QFile file(m_path);
         if (!file.copy(copy))
             return Status::failure(file.errorString());
+        QFile::setPermissions(copy, QFile::ReadOwner | QFile::WriteOwner);
         m_logger->info(QStringLiteral("Kept the malformed settings file as \"%@\""), {copy});
         m_isMalformed = false;
         return Status::success();

@@ -86,6 +86,7 @@ TEST_F(LMUserDefaultsTest, TheFileIsForTheOwnerOnlyAndMayBeALinkThatOthersEdit) 
 TEST_F(LMUserDefaultsTest, LeavesMalformedFilesAloneUntilSomethingIsSet) {
     const std::pair<QByteArray, bool> cases[] = {
         {"good=1\nthis is no setting\n", true},
+        {"good=1\n=nameless\n", true},
         {"[unclosed\ngood=1\n", false},
         {QByteArray("\0\1\2\xff\xfe garbage", 13), false},
         {"good=1\n;" + QByteArray(2000000, 'a'), false},
