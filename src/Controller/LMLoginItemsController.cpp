@@ -45,11 +45,19 @@ bool isForThisDesktop(const LMKeyFile& entry) {
     return isChosen ? names("OnlyShowIn") : !names("NotShowIn");
 }
 
+/// With the path a program is found under now; null when it is not.
+QString canonicalProgram(const QString& program) {
+    const QString path =
+        QDir::isAbsolutePath(program) ? program : QStandardPaths::findExecutable(program);
+    return QFileInfo(path).canonicalFilePath();
+}
+
 bool isSwitchedOn(const LMKeyFile& entry) {
+    const QString tried = entry.value(group(), QStringLiteral("TryExec"));
     const QString enabled = entry.value(group(), QStringLiteral("X-GNOME-Autostart-enabled"));
     return !entry.isTrue(group(), QStringLiteral("Hidden")) &&
            enabled.compare(QLatin1String("false"), Qt::CaseInsensitive) != 0 &&
-           isForThisDesktop(entry);
+           (tried.isEmpty() || !canonicalProgram(tried).isEmpty()) && isForThisDesktop(entry);
 }
 
 /// What a session starts for an entry: no files, and a percent sign is written twice.
@@ -59,13 +67,6 @@ QStringList commandLine(const LMKeyFile& entry) {
         return word.size() == 2 && word.startsWith(QLatin1Char('%')) && word.at(1).isLetter();
     });
     return words.replaceInStrings(QStringLiteral("%%"), QStringLiteral("%"));
-}
-
-/// With the path a program is found under now.
-QString canonicalProgram(const QString& program) {
-    const QString path =
-        QDir::isAbsolutePath(program) ? program : QStandardPaths::findExecutable(program);
-    return QFileInfo(path).canonicalFilePath();
 }
 
 /// The files of the folder that are entries; none when there is no such folder.
@@ -122,11 +123,14 @@ bool LMLoginItemsController::startsThisProgram(const QString& path) const {
     const auto entry = LMKeyFile::fromFile(path);
     if (!entry || !isSwitchedOn(*entry))
         return false;
+    QStringList arguments = commandLine(*entry);
+    const QString program =
+        arguments.isEmpty() ? QString() : canonicalProgram(arguments.takeFirst());
+    if (program.isEmpty()) // It was there once; the session starts nothing.
+        return false;
     if (QFileInfo(path).fileName() == entryName())
         return true;
-    QStringList arguments = commandLine(*entry);
-    if (arguments.isEmpty() ||
-        canonicalProgram(arguments.takeFirst()) != QFileInfo(m_executable).canonicalFilePath())
+    if (program != QFileInfo(m_executable).canonicalFilePath())
         return false;
     // With a command it would only talk to the resident process.
     return std::ranges::all_of(

@@ -30,7 +30,7 @@ protected:
 };
 
 TEST_F(LoginItems, AreWhatTheEntriesInForceSay) {
-    const QByteArray exec = "Exec=" + LMExecOfArgument(program).toUtf8();
+    const QByteArray exec = "Exec=" + LMExecOfArgument(program).toUtf8(), line = exec + '\n';
     const struct {
         const char* why;
         QByteArray users, systems; ///< Entries with our identifier.
@@ -38,13 +38,15 @@ TEST_F(LoginItems, AreWhatTheEntriesInForceSay) {
         bool isItem;
     } rows[] = {
         {"none", {}, {}, {}, false},
-        {"the user's", "Exec=rook\n", {}, {}, true},
-        {"the system's", {}, "Exec=rook\n", {}, true},
-        {"masked by the user", "Hidden=true\n", "Exec=rook\n", {}, false},
-        {"switched off", "X-GNOME-Autostart-enabled=false\n", {}, {}, false},
-        {"for this one", "OnlyShowIn=GNOME;XFCE;\n", {}, {}, true},
-        {"not for this one", "NotShowIn=XFCE;\n", {}, {}, false},
-        {"under another name", {}, {}, exec + '\n', true},
+        {"the user's", line, {}, {}, true},
+        {"the system's", {}, line, {}, true},
+        {"masked by the user", "Hidden=true\n", line, {}, false},
+        {"switched off", line + "X-GNOME-Autostart-enabled=false\n", {}, {}, false},
+        {"for this one", line + "OnlyShowIn=GNOME;XFCE;\n", {}, {}, true},
+        {"not for this one", line + "NotShowIn=XFCE;\n", {}, {}, false},
+        {"of a program that is gone", "Exec=/nowhere/rook\n", {}, {}, false},
+        {"that is tried in vain", line + "TryExec=/nowhere/rook\n", {}, {}, false},
+        {"under another name", {}, {}, line, true},
         {"with an option", {}, {}, exec + " --headless %U\n", true},
         {"that only gives a command", {}, {}, exec + " restore-all\n", false},
         {"another program", {}, {}, "Exec=/bin/sh\n", false},
@@ -86,7 +88,7 @@ TEST_F(LoginItems, AreWatchedEvenWhereThereIsNoFolderYet) {
         QDir(QFileInfo(folder).path()).removeRecursively();
         const auto items = make();
         QDir().mkpath(folder);
-        const QString file = LMWriteFile(folder + ours, entry("Exec=rook\n"));
+        const QString file = LMWriteFile(folder + ours, entry("Exec=sh\n"));
         EXPECT_TRUE(wait([&] { return reports > 0 && items->isCurrentApplicationInLoginItems(); }));
         LMWriteFile(file, entry("Hidden=true\n")); // In place.
         reports = 0;
