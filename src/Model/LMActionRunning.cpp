@@ -8,6 +8,7 @@
 #include "Utilities/LMFormat.h"
 #include "Utilities/LMLogger.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -75,8 +76,11 @@ void LMAction::runAsShellScript() {
         return;
     }
     const QString path = LMWriteScriptToTemporaryFile(m_script, environment().ownBundleIdentifier);
-    if (path.isNull())
+    if (path.isNull()) {
+        logger.error(QStringLiteral("Error running shell script: it cannot be written to \"%@\""),
+                     {QDir::tempPath()});
         return;
+    }
     const LMActivityScope running = announceRun();
     LMRunShellScriptAtPath(path, logger);
     QFile::remove(path);

@@ -7,11 +7,12 @@
 namespace {
 
 constexpr qsizetype MaxRecent = 8;
+constexpr qsizetype LongestLabel = 300; // It may hold what another program sent.
 
 } // namespace
 
 void LMActivity::begin(const QString& label, const QDateTime& now) {
-    m_current.append({label, now});
+    m_current.append({label.left(LongestLabel), now});
     if (m_changed)
         m_changed();
 }
