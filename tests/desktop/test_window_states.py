@@ -182,8 +182,13 @@ class WindowStates(unittest.TestCase):
     def test_5_a_monitor_that_was_gone(self) -> None:
         self.desktop.server.set_layout("single")
         self.readings()
+        done = self.latest_activity()
         self.desktop.server.set_layout("two")
+        wait_until(lambda: self.latest_activity() != done, "Rook to have its turn, whatever came back by itself", 30.0)
         wait_until(lambda: self.readings() == self.before, "the windows to come back", 30.0, 0.5)
+
+    def latest_activity(self) -> list[dict]:
+        return self.rook.report("status")["activity"]["recent"][:1]
 
     def test_6_windows_return_to_the_frames_they_had(self) -> None:
         self.heap_up()
