@@ -8,7 +8,6 @@
 #include "Utilities/LMFormat.h"
 #include "Utilities/LMLogger.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -76,11 +75,8 @@ void LMAction::runAsShellScript() {
         return;
     }
     const QString path = LMWriteScriptToTemporaryFile(m_script, environment().ownBundleIdentifier);
-    if (path.isNull()) {
-        logger.error(QStringLiteral("Error running shell script: it cannot be written to \"%@\""),
-                     {QDir::tempPath()});
+    if (path.isNull())
         return;
-    }
     const LMActivityScope running = announceRun();
     LMRunShellScriptAtPath(path, logger);
     QFile::remove(path);

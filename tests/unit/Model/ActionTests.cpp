@@ -48,9 +48,7 @@ TEST_F(ActionTest, ShellScriptsRunUnderTheirInterpreter) {
         {u"#!/bin/sh\recho hi"_s, u"Failed to run shell script"_s},
         {u"#!/bin/sh\r\necho hi\r\n"_s, u"Failed to run shell script"_s}, // The kernel takes CRs.
         {u"#!/bin/sh\0x\necho"_s, error + u"/bin/sh\\u0000x is not executable"_s},
-        {u"x\xd800y"_s, // Not to be written as UTF-8.
-         error + u"it cannot be written to \"%1\""_s.arg(test.directory.path()),
-         u"#!/bin/bash\n\nx\xd800y"_s},
+        {u"x\xd800y"_s, {}, u"#!/bin/bash\n\nx\xd800y"_s}, // Not to be written as UTF-8.
     };
     for (const auto& one : cases) {
         EXPECT_EQ(run(one.script), one.logged) << one.script.toStdString();
