@@ -39,7 +39,7 @@ struct LMElement {
     int index = 0;         ///< Child: its place among the window's children.
 
     bool isNull() const { return kind == Kind::None; }
-    auto operator<=>(const LMElement&) const = default; // NOLINT(modernize-use-nullptr): not ours
+    auto operator<=>(const LMElement&) const = default; // NOLINT(modernize-use-nullptr): generated
 };
 
 /// A value of an element's attribute. Points and sizes are global pixels, see LMScreens.

@@ -46,7 +46,8 @@ LMPlatformStatus LMX11StackSetter::reach(const QList<xcb_window_t>& wanted) {
     const auto failed = LMPlatformStatus::failure(LMPlatformError::CannotComplete);
     if (!m_windowManager.isRunning())
         return failed;
-    if (LMX11PlanRestacking(pile(), wanted).isEmpty())
+    const QList<LMX11StackedWindow> before = pile();
+    if (LMX11PlanRestacking(before, wanted).isEmpty())
         return LMPlatformStatus::success();
     LMX11ViewGuard view(m_connection, m_windowManager);
     const bool canRestack = knowsRestacking();
@@ -54,7 +55,7 @@ LMPlatformStatus LMX11StackSetter::reach(const QList<xcb_window_t>& wanted) {
     const QList<Means> allMeans =
         canRestack ? QList{Means::Asking, Means::Restacking, Means::RestackingAll}
                    : QList{Means::Asking, Means::AsIfUsed, Means::AllByDesktop};
-    LMX11Restacking next = LMX11PlanRestacking(pile(), wanted, staying);
+    LMX11Restacking next = LMX11PlanRestacking(before, wanted, staying);
     bool isAnswered = false;
     for (const Means means : allMeans) {
         if (means == allMeans.last())
