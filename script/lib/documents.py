@@ -4,6 +4,9 @@
 A comment of the form `<!-- check: WORD [TEXT] -->` on the line before a code block says how the block is checked:
 
     skip REASON     it is not run; the check lists it with the reason
+    by SCRIPT       it is not run here: that script must have each of its commands
+    machine         script/check-install runs it, as root, on a copy of the machine; one after the other
+    leaves PATHS    after that these files exist; programs among them run
     needs PROGRAM   it is run where the program is installed, and listed where it is not
     status NUMBER   its last command ends with this status instead of 0
     windows NAME    before it, the windows of that name are opened (live_documents.py knows them)

@@ -65,6 +65,15 @@ def check_blocks(documents: Iterable[Document]) -> Iterator[Problem]:
                         yield block.place, f"{key} is no setting"
 
 
+def check_scripts(documents: Iterable[Document]) -> Iterator[Problem]:
+    """Where a script is said to run a block, it does."""
+    for block in (block for document in documents for block in document.blocks if "by" in block.marks):
+        script = (ROOT / block.marks["by"]).read_text()
+        for command in (line.partition("#")[0].strip() for line in block.lines):
+            if not re.search(rf"^(?!\s*#).*(?<!\S){re.escape(command)}(?!\S)", script, re.MULTILINE):
+                yield block.place, f"{block.marks['by']} does not run {command}"
+
+
 # What a script of the repository is called with is its own business; that it exists is not.
 def paths_of(code: str) -> Iterator[str]:
     top = {name.split("/")[0] for name in tracked() if "/" in name}
@@ -170,5 +179,5 @@ def check_promises(_: Iterable[Document]) -> Iterator[Problem]:
 
 
 def check_written(documents: list[Document]) -> list[Problem]:
-    checks = (check_links, check_blocks, check_paths, check_names, check_settings, check_methods, check_promises)
+    checks = (check_links, check_blocks, check_scripts, check_paths, check_names, check_settings, check_methods, check_promises)
     return [problem for check in checks for problem in check(documents)]
