@@ -6,8 +6,7 @@ A comment of the form `<!-- check: WORD [TEXT] -->` on the line before a code bl
     skip REASON     it is not run; the check lists it with the reason
     by SCRIPT       it is not run here: that script must have each of its commands
     machine         script/check-install runs it, as root, on a copy of the machine; one after the other
-    leaves PATHS    after that these files exist; programs among them run
-    needs PROGRAM   it is run where the program is installed, and listed where it is not
+    then COMMAND    fails before the block and succeeds after it, perhaps not at once
     status NUMBER   its last command ends with this status instead of 0
     windows NAME    before it, the windows of that name are opened (live_documents.py knows them)
     schema          it is the store's schema
@@ -20,6 +19,7 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent.parent
 LANGUAGES = ("sh", "console", "ini", "json", "sql", "cpp", "text")
+MARKS = ("skip", "by", "machine", "then", "status", "windows", "schema")
 MARK = re.compile(r"<!-- check: (\w+) ?(.*?) -->$")
 
 
@@ -60,6 +60,7 @@ class Document:
     rows: list[Row] = field(default_factory=list)
     codes: list[tuple[Place, str]] = field(default_factory=list)
     links: list[tuple[Place, str]] = field(default_factory=list)
+    marks: list[tuple[Place, str]] = field(default_factory=list)
     headings: list[str] = field(default_factory=list)
 
     @property
@@ -112,6 +113,7 @@ class _Reader:
         mark = MARK.match(line)
         if mark:
             self._marks[mark.group(1)] = mark.group(2)
+            self.document.marks.append((place, mark.group(1)))
             return
         if line.startswith("#"):
             level, text = len(line) - len(line.lstrip("#")), line.lstrip("#").strip()

@@ -5,7 +5,6 @@ from __future__ import annotations
 import difflib
 import os
 import re
-import shutil
 import signal
 import sqlite3
 import subprocess
@@ -40,7 +39,7 @@ WINDOWS = {
     "patterns": (("xterm", "build", Frame(60, 80, 520, 340)), ("xterm", "logs", Frame(2000, 60, 520, 340))),
 }
 # What no test can have, done at once: the screen is unlocked, the note is shown.
-PROGRAMS = {"i3lock": "exit 0", "notify-send": "exit 0"}
+PROGRAMS = {"i3lock": '[ "$*" = --nofork ]', "notify-send": 'echo "$*" >"$HOME/shown"'}
 # Words that stand for something of the reader's own.
 STAND_INS = {"ID": "debian-xterm", "COMMAND": "restore-all"}
 
@@ -60,7 +59,9 @@ class Sandbox:
             for name, script in PROGRAMS.items():
                 (rook.parent / name).write_text(f"#!/bin/sh\n{script}\n")
                 (rook.parent / name).chmod(0o755)
-            self.environment = {**self.desktop.environment, MARK: str(self.desktop.work.path),
+            # As in most sessions: what the documents say must hold without these.
+            unset = ("XDG_DATA_HOME", "XDG_CONFIG_HOME")
+            self.environment = {**{name: value for name, value in self.desktop.environment.items() if name not in unset}, MARK: str(self.desktop.work.path),
                                 "PATH": f"{rook.parent}:{os.environ['PATH']}"}
             self._teach_the_bus(rook)
             self.rook = Resident(self.desktop.session, rook, headless=False, settings={**SETTINGS, **(settings or {})})
@@ -105,7 +106,7 @@ class Sandbox:
         """Status and output of a shell command. What it leaves running must not keep us waiting."""
         output = self.desktop.work.path / "output"
         with output.open("wb") as file:
-            process = subprocess.Popen(["sh", "-eu", "-c", command], cwd=ROOT, env=self.environment, stdout=file,
+            process = subprocess.Popen(["bash", "-euo", "pipefail", "-c", command], cwd=ROOT, env=self.environment, stdout=file,
                                        stderr=subprocess.STDOUT, stdin=subprocess.DEVNULL, start_new_session=True)
             try:
                 status = process.wait(SECONDS)
@@ -164,15 +165,19 @@ class BlockRunner:
 
     def run(self, block: Block) -> Iterator[Problem]:
         reason = block.marks.get("skip")
-        needed = block.marks.get("needs")
-        if reason is None and needed and not shutil.which(needed):
-            reason = f"{needed} is not installed"
         if reason is not None:
             self.skipped.append((block.place, f"{reason}: {'; '.join(block.lines)}"))
             return
         if "windows" in block.marks:
             self.sandbox.open(block.marks["windows"])
-        wanted = int(block.marks.get("status", 0))
+        then = block.marks.get("then", "false")
+        if self.sandbox.run(then)[0] == 0:
+            yield block.place, f"{then}: succeeds even before"
+        yield from self._type(block, int(block.marks.get("status", 0)))
+        if "then" in block.marks:
+            wait_until(lambda: self.sandbox.run(then)[0] == 0, then)
+
+    def _type(self, block: Block, wanted: int) -> Iterator[Problem]:
         if block.language == "sh":
             status, output = self.sandbox.run(block.text)
             if status != wanted:

@@ -10,7 +10,7 @@ from functools import cache
 from pathlib import Path
 from xml.etree import ElementTree
 
-from documents import LANGUAGES, ROOT, Document, Place, code_of
+from documents import LANGUAGES, MARKS, ROOT, Document, Place, code_of
 
 Problem = tuple[object, str]
 TYPES = {"bool": "Boolean", "double": "number", "string": "text", "strings": "list", "data": "shortcut"}
@@ -54,6 +54,9 @@ def check_links(documents: Iterable[Document]) -> Iterator[Problem]:
 
 def check_blocks(documents: Iterable[Document]) -> Iterator[Problem]:
     for document in documents:
+        for place, mark in document.marks:
+            if mark not in MARKS:
+                yield place, f"{mark} is no mark"
         for block in document.blocks:
             if block.language and block.language not in LANGUAGES:
                 yield block.place, f"blocks are of {', '.join(LANGUAGES)}, not {block.language}"
@@ -70,7 +73,7 @@ def check_scripts(documents: Iterable[Document]) -> Iterator[Problem]:
     for block in (block for document in documents for block in document.blocks if "by" in block.marks):
         script = (ROOT / block.marks["by"]).read_text()
         for command in (line.partition("#")[0].strip() for line in block.lines):
-            if not re.search(rf"^(?!\s*#).*(?<!\S){re.escape(command)}(?!\S)", script, re.MULTILINE):
+            if not re.search(rf"^(step |thorough )?(env \S+ )?{re.escape(command)}(?!\S)", script, re.MULTILINE):
                 yield block.place, f"{block.marks['by']} does not run {command}"
 
 
@@ -179,5 +182,6 @@ def check_promises(_: Iterable[Document]) -> Iterator[Problem]:
 
 
 def check_written(documents: list[Document]) -> list[Problem]:
-    checks = (check_links, check_blocks, check_scripts, check_paths, check_names, check_settings, check_methods, check_promises)
+    checks = (check_links, check_blocks, check_scripts, check_paths, check_names, check_settings, check_methods,
+              check_promises)
     return [problem for check in checks for problem in check(documents)]
