@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 
+#include <iostream>
 #include <utility>
 
 namespace {
@@ -275,6 +276,10 @@ int LMExplainCommandLine(int argc, const char* const* argv) {
     } catch (const CLI::ParseError& error) {
         const bool isHelp = error.get_exit_code() == int(CLI::ExitCodes::Success);
         app.exit(error); // Prints it.
+        if (!std::cout.flush()) {
+            std::cerr << "rook: " << words(LMLocalized("the output could not be written")) << '\n';
+            return LMExitCode::Refused;
+        }
         return isHelp ? LMExitCode::Done : LMExitCode::Usage;
     }
     return LMExitCode::Done;

@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: MIT
 """What other programs, broken files and missing services can do to Rook: nothing worse than a clear message."""
+import itertools
 import os
 import signal
 import subprocess
@@ -139,9 +140,9 @@ class Processes(unittest.TestCase):
             process.wait_until(lambda: rook.run("status").returncode != 3, "the resident process", 20.0)
             for number in range(3):
                 self.assertEqual(os.readlink(f"/proc/{process.identifier}/fd/{number}"), "/dev/null")
-            for target in ("&-", "/dev/full"):
-                lost = session.start("lost", ["sh", "-c", f'"$0" list >{target}', rook.binary])
-                self.assertEqual(lost.popen.wait(10), 1, target)
+            for target, command in itertools.product(("&-", "/dev/full"), ("list", "--help", "--version")):
+                lost = session.start("lost", ["sh", "-c", f'"$0" {command} >{target}', rook.binary])
+                self.assertEqual(lost.popen.wait(10), 1, (target, command))
             self.assertEqual(rook.run("--headless").returncode, 0, "a second start hands over")
 
     def test_a_store_that_cannot_be_used_is_refused_and_left_alone(self) -> None:
