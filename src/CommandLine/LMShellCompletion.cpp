@@ -67,7 +67,7 @@ _rook_identifiers() {
 }
 
 _rook() {
-    local command='' words='' index
+    local command='' words='' word index
     for ((index = 1; index < COMP_CWORD; index++)); do
         if [[ ${COMP_WORDS[index]} != -* ]]; then
             command=${COMP_WORDS[index]}
@@ -77,7 +77,10 @@ _rook() {
     case $command in
         '') words=%2 ;;
 %3    esac
-    mapfile -t COMPREPLY < <(compgen -W "$words" -- "${COMP_WORDS[COMP_CWORD]}")
+    COMPREPLY=()
+    while read -r word; do
+        [[ " ${COMP_WORDS[*]:1:COMP_CWORD-1} " == *" $word "* ]] || COMPREPLY+=("$word")
+    done < <(compgen -W "$words" -- "${COMP_WORDS[COMP_CWORD]}")
 }
 
 complete -F _rook rook

@@ -130,6 +130,8 @@ class InstalledPackage(unittest.TestCase):
                 self.assertRegex(fish, rf"(?m)^{command}\t")
                 self.assertIn(f"'{command}:", zsh)
         self.assertIn("xterm", " ".join(self.bash_completions("restore-app")).lower())
+        self.assertEqual([words.count("--json") for words in (self.bash_completions("list"),
+                                                              self.bash_completions("list", "--json"))], [1, 0])
 
     def bash_completions(self, *words: str) -> list[str]:
         script = self.root / "usr/share/bash-completion/completions/rook"
