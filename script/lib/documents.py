@@ -44,6 +44,10 @@ class Block:
     def text(self) -> str:
         return "\n".join(self.lines)
 
+    @property
+    def wanted_status(self) -> int:
+        return int(self.marks.get("status", 0))
+
 
 @dataclass(frozen=True)
 class Row:
@@ -96,6 +100,8 @@ class _Reader:
             else:
                 self._text_line(place, line)
         self._end_paragraph()
+        if self._block:
+            raise ValueError(f"{self._block.place}: this block does not end")
         return self.document
 
     def _code_line(self, place: Place, line: str) -> None:

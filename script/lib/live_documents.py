@@ -31,6 +31,7 @@ HOME = "/home/ann"  # what the documents call the home directory
 UNASKED = {"SuppressStoreAllAlert": True, "SuppressStoreAllSuccess": True}
 REFUSES = "Ask to overwrite in order to replace them."  # what a store command may do without --overwrite
 SECONDS = 30.0
+TOOK_TOO_LONG = 124  # as timeout(1) says it
 WINDOWS = {
     "terminals": (("xterm", "build", Frame(60, 80, 520, 340)), ("xterm", "logs", Frame(2000, 60, 600, 400))),
     "stored": (("xterm", "build", Frame(60, 80, 520, 340)), ("xterm", "logs", Frame(2000, 60, 600, 400))),
@@ -113,7 +114,7 @@ class Sandbox:
             except subprocess.TimeoutExpired:
                 os.killpg(process.pid, signal.SIGKILL)
                 process.wait()
-                status = -1
+                status = TOOK_TOO_LONG
         self._calm()
         return status, output.read_text(errors="replace").replace(str(self.home), HOME).rstrip("\n")
 
@@ -131,6 +132,10 @@ class Sandbox:
 
     def __exit__(self, *_: object) -> None:
         self.desktop.close()
+
+
+def ended(status: int) -> str:
+    return f"had not ended after {SECONDS:.0f} s" if status == TOOK_TOO_LONG else f"ended with {status}"
 
 
 def comparable(text: str) -> list[str]:
@@ -173,7 +178,7 @@ class BlockRunner:
         then = block.marks.get("then", "false")
         if self.sandbox.run(then)[0] == 0:
             yield block.place, f"{then}: succeeds even before"
-        yield from self._type(block, int(block.marks.get("status", 0)))
+        yield from self._type(block, block.wanted_status)
         if "then" in block.marks:
             wait_until(lambda: self.sandbox.run(then)[0] == 0, then)
 
@@ -181,7 +186,7 @@ class BlockRunner:
         if block.language == "sh":
             status, output = self.sandbox.run(block.text)
             if status != wanted:
-                yield block.place, f"ended with {status}:\n{output}"
+                yield block.place, f"{ended(status)}:\n{output}"
         else:
             yield from self._console(block, wanted)
 
@@ -196,7 +201,7 @@ class BlockRunner:
                 yield block.place, "\n".join([f"$ {command}", *difflib.unified_diff(said, true, "documented", "printed",
                                                                                    lineterm="")])
         if status != wanted:
-            yield block.place, f"ended with {status}, not {wanted}"
+            yield block.place, f"{ended(status)}, not {wanted}"
         if not is_true:  # times and process numbers alone are no change
             self.true_text[block.place] = lines
 

@@ -18,9 +18,13 @@ TYPES = {"bool": "Boolean", "double": "number", "string": "text", "strings": "li
 
 @cache
 def tracked() -> tuple[str, ...]:
-    """Every file of the repository, the new ones included."""
-    names = subprocess.run(["git", "ls-files", "--cached", "--others", "--exclude-standard"], cwd=ROOT, check=True,
-                           capture_output=True, text=True).stdout.splitlines()
+    """Every file of the repository, the new ones included; outside a repository every file but what is built."""
+    listed = subprocess.run(["git", "ls-files", "--cached", "--others", "--exclude-standard"], cwd=ROOT,
+                            capture_output=True, text=True)
+    names: Iterable[str] = listed.stdout.splitlines()
+    if listed.returncode != 0:
+        names = (str(path.relative_to(ROOT)) for top in ROOT.iterdir() if top.name not in ("build", ".git")
+                 for path in (top, *top.rglob("*")) if path.is_file())
     return tuple(name for name in names if (ROOT / name).exists())
 
 
