@@ -21,6 +21,7 @@
     </message>
     <message>
         <location filename="../../src/CommandLine/LMClient.cpp"/>
+        <location filename="../../src/CommandLine/LMInvocation.cpp"/>
         <source>the output could not be written</source>
         <translation>die Ausgabe konnte nicht geschrieben werden</translation>
     </message>
@@ -561,6 +562,11 @@ Mehr erfahren Sie mit „rook --help“.</translation>
         <location filename="../../src/Controller/LMCommandFrame.cpp"/>
         <source>%@ Ask to overwrite in order to replace them.</source>
         <translation>%@ Verlangen Sie das Überschreiben, um sie zu ersetzen.</translation>
+    </message>
+    <message>
+        <location filename="../../src/Controller/LMCommandFrame.cpp"/>
+        <source>You chose not to replace what is stored.</source>
+        <translation>Sie wollten das Gespeicherte nicht ersetzen.</translation>
     </message>
     <message>
         <location filename="../../src/Controller/LMHotKeyCenter.cpp"/>

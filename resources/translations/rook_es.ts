@@ -21,6 +21,7 @@
     </message>
     <message>
         <location filename="../../src/CommandLine/LMClient.cpp"/>
+        <location filename="../../src/CommandLine/LMInvocation.cpp"/>
         <source>the output could not be written</source>
         <translation>no se pudo escribir la salida</translation>
     </message>
@@ -561,6 +562,11 @@ Ejecute «rook --help» para obtener más información.</translation>
         <location filename="../../src/Controller/LMCommandFrame.cpp"/>
         <source>%@ Ask to overwrite in order to replace them.</source>
         <translation>%@ Pida sobrescribir para sustituirlas.</translation>
+    </message>
+    <message>
+        <location filename="../../src/Controller/LMCommandFrame.cpp"/>
+        <source>You chose not to replace what is stored.</source>
+        <translation>Ha elegido no sustituir lo que está guardado.</translation>
     </message>
     <message>
         <location filename="../../src/Controller/LMHotKeyCenter.cpp"/>

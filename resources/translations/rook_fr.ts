@@ -21,6 +21,7 @@
     </message>
     <message>
         <location filename="../../src/CommandLine/LMClient.cpp"/>
+        <location filename="../../src/CommandLine/LMInvocation.cpp"/>
         <source>the output could not be written</source>
         <translation>la sortie n’a pas pu être écrite</translation>
     </message>
@@ -561,6 +562,11 @@ Pour en savoir plus, exécutez « rook --help ».</translation>
         <location filename="../../src/Controller/LMCommandFrame.cpp"/>
         <source>%@ Ask to overwrite in order to replace them.</source>
         <translation>%@ Demandez l’écrasement pour les remplacer.</translation>
+    </message>
+    <message>
+        <location filename="../../src/Controller/LMCommandFrame.cpp"/>
+        <source>You chose not to replace what is stored.</source>
+        <translation>Vous avez choisi de ne pas remplacer ce qui est mémorisé.</translation>
     </message>
     <message>
         <location filename="../../src/Controller/LMHotKeyCenter.cpp"/>

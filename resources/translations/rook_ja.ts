@@ -21,6 +21,7 @@
     </message>
     <message>
         <location filename="../../src/CommandLine/LMClient.cpp"/>
+        <location filename="../../src/CommandLine/LMInvocation.cpp"/>
         <source>the output could not be written</source>
         <translation>出力を書き込めませんでした</translation>
     </message>
@@ -561,6 +562,11 @@ Run “rook --help” for more information.</source>
         <location filename="../../src/Controller/LMCommandFrame.cpp"/>
         <source>%@ Ask to overwrite in order to replace them.</source>
         <translation>%@置き換えるには上書きを指定してください。</translation>
+    </message>
+    <message>
+        <location filename="../../src/Controller/LMCommandFrame.cpp"/>
+        <source>You chose not to replace what is stored.</source>
+        <translation>保存済みの内容を置き換えないことが選択されました。</translation>
     </message>
     <message>
         <location filename="../../src/Controller/LMHotKeyCenter.cpp"/>

@@ -93,4 +93,8 @@ QString alreadyStored(const QString& what) {
     return LMFormat(LMLocalized("%@ Ask to overwrite in order to replace them."), {what});
 }
 
+QString declined() {
+    return LMLocalized("You chose not to replace what is stored.");
+}
+
 } // namespace LMRefusal

@@ -78,4 +78,6 @@ QString noFocusedWindow();
 QString noWindows();
 QString notStored(const QString& applicationName);
 QString alreadyStored(const QString& what);
+/// The user was asked and wants nothing replaced.
+QString declined();
 } // namespace LMRefusal

@@ -6,7 +6,7 @@
 /// What a command answers: whether it was done, and what the user should know, in one plain line.
 struct LMCommandResult {
     bool isDone = false;
-    /// Why it was not done (empty when the user said no), or what went wrong although it was done.
+    /// Why it was not done, or what went wrong although it was done.
     QString refusal;
 
     static LMCommandResult done() { return {true, {}}; }

@@ -57,7 +57,7 @@ std::optional<LMCommandResult> LMStoreCommands::askToReplace(const LMSuppressibl
     if (LMRunReplaceConfirmation(m_parts.environment, m_parts.userInterface, question) ==
         LMAlertAnswer::FirstButton)
         return std::nullopt;
-    return LMCommandResult::refused(QString());
+    return LMCommandResult::refused(LMRefusal::declined());
 }
 
 void LMStoreCommands::reportSuccess(QLatin1String suppressionKey, const QString& text,

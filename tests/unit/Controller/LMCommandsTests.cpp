@@ -41,7 +41,8 @@ TEST_F(ControllerTest, NothingIsReplacedSilently) {
 TEST_F(ControllerTest, QuestionsDecide) {
     LMStoreCommands commands(delegate.commandParts());
     perform("SAll");
-    EXPECT_FALSE(commands.storeAllWindows(false, true).isDone);
+    const LMCommandResult declined = commands.storeAllWindows(false, true);
+    EXPECT_FALSE(declined.isDone || declined.refusal.isEmpty()) << "the user said no, and is told";
     userInterface.answer = {};
     EXPECT_TRUE(commands.storeAllWindows(false, true).isDone);
     EXPECT_TRUE(commands.storeActiveApplicationWindows(false, true).isDone);
