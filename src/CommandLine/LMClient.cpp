@@ -104,8 +104,9 @@ int LMClient::report(const LMInvocation& invocation) {
         QJsonDocument::fromJson(reply.arguments().value(0).toString().toUtf8());
     if (invocation.wantsJson)
         print(m_output, QString::fromUtf8(document.toJson(QJsonDocument::Indented)).trimmed());
-    else
-        print(m_output, LMTables::forReport(invocation.method, document.object()));
+    else if (const QString text = LMTables::forReport(invocation.method, document.object());
+             !text.isEmpty())
+        print(m_output, text);
     if (std::fflush(m_output) != 0 || std::ferror(m_output) != 0)
         return failed(LMLocalized("the output could not be written"));
     const QJsonValue error = document.object().value(QLatin1String("error"));

@@ -189,7 +189,8 @@ QString planText(const QJsonObject& report) {
                          geometry(stored[u"frame"]),
                          QStringLiteral("-")});
     }
-    return LMTables::table(rows);
+    const bool hasErrorOnly = rows.size() == 1 && report.contains(u"error");
+    return hasErrorOnly ? QString() : LMTables::table(rows);
 }
 
 /// How many columns of a terminal the text takes: signs of East Asia take two, marks on a letter

@@ -9,7 +9,8 @@
 /// steer the terminal or break a line is replaced, and long texts are shortened.
 namespace LMTables {
 
-/// The report of a D-Bus method ("Status", "List", "Windows", "Plan") as text.
+/// The report of a D-Bus method ("Status", "List", "Windows", "Plan") as text; empty when it has an
+/// error and nothing else.
 QString forReport(const QString& method, const QJsonObject& report);
 
 /// One entry of the status report's activity: what, and from when to when.

@@ -51,6 +51,7 @@ class OtherPrograms(DesktopTest):
             output = self.rook.run(table).stdout
             self.assertFalse(set(output) & set("\x07\x1b\r\u202e"), table)
             self.assertLess(max(map(len, output.splitlines())), 400)
+        self.assertEqual(self.rook.run("plan", "nope").stdout, "", "an error needs no empty table")
 
     def test_frozen_and_stubborn_clients_cost_little_and_harm_nobody(self) -> None:
         cold, = self.spawner.create(title="cold", geometry="400x300+600+100")
