@@ -175,8 +175,9 @@ QDBusMessage LMClient::ask(const QDBusMessage& message, bool notesDelay) const {
     QTimer delay;
     delay.setSingleShot(true);
     QObject::connect(&delay, &QTimer::timeout, &loop, [this] {
-        print(m_errors, LMFormat(LMLocalized("rook: Rook is busy and answers later. %@"),
-                                 {LMTables::printable(activity())}));
+        const QString note = LMFormat(LMLocalized("rook: Rook is busy and answers later. %@"),
+                                      {LMTables::printable(activity())});
+        print(m_errors, note.trimmed()); // One that was stopped while idle has no activity.
     });
     if (notesDelay)
         delay.start(NoticeableDelay);

@@ -108,7 +108,7 @@ class OtherPrograms(DesktopTest):
         process = self.rook.process
         process.signal(signal.SIGSTOP)
         asking = subprocess.Popen([self.rook.binary, "status"], env=self.desktop.environment, stderr=subprocess.PIPE)
-        self.assertIn(b"busy", asking.stderr.readline())
+        self.assertRegex(asking.stderr.readline(), rb"busy.*\S\n$", "no space behind it")
         self.session.bus.stop()
         asking.communicate(timeout=20)
         self.assertEqual(asking.returncode, 1)
