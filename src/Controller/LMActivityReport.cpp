@@ -6,9 +6,13 @@
 #include "Utilities/LMBaseDirectories.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
+
+#include <cerrno>
+#include <csignal>
 
 namespace {
 
@@ -24,6 +28,19 @@ QJsonArray entries(const QList<LMActivity::Entry>& entries) {
     return result;
 }
 
+/// One that was killed could not remove its file. A process that exists is left alone, whatever it
+/// is: it may be a Rook of another session.
+void removeFilesOfDeadProcesses(const QFileInfo& own) {
+    const QFileInfoList files =
+        own.dir().entryInfoList({QStringLiteral("rook-*.json")}, QDir::Files | QDir::NoSymLinks);
+    for (const QFileInfo& file : files) {
+        const int process = file.completeBaseName().mid(5).toInt();
+        const bool isActivityFile = process > 0 && file.filePath() == LMActivityFilePath(process);
+        if (isActivityFile && ::kill(process, 0) != 0 && errno == ESRCH)
+            QFile::remove(file.filePath());
+    }
+}
+
 } // namespace
 
 QJsonObject LMActivityReport(const LMActivity& activity) {
@@ -33,8 +50,10 @@ QJsonObject LMActivityReport(const LMActivity& activity) {
 
 LMActivityFile::LMActivityFile(LMEnvironment& environment)
     : m_environment(environment), m_path(LMActivityFilePath(QCoreApplication::applicationPid())) {
-    if (!m_path.isNull())
-        environment.activity.setChangeHandler([this] { write(); });
+    if (m_path.isNull())
+        return;
+    removeFilesOfDeadProcesses(QFileInfo(m_path));
+    environment.activity.setChangeHandler([this] { write(); });
 }
 
 LMActivityFile::~LMActivityFile() {

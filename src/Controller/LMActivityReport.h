@@ -14,7 +14,8 @@ QJsonObject LMActivityReport(const LMActivity& activity);
 /// by a script and cannot answer.
 class LMActivityFile {
 public:
-    /// The environment outlives this object. Without a run-time directory there is no file.
+    /// The environment outlives this object. Without a run-time directory there is no file. Files
+    /// of processes that have died without removing theirs are removed.
     explicit LMActivityFile(LMEnvironment& environment);
     ~LMActivityFile();
     Q_DISABLE_COPY_MOVE(LMActivityFile)

@@ -18,11 +18,13 @@ protected:
     LifecycleTest() {
         ::qputenv("XDG_DATA_HOME", QFile::encodeName(test.path(u"data"_s)));
         ::qputenv("XDG_DATA_DIRS", "/nonexistent");
+        ::qputenv("XDG_RUNTIME_DIR", QFile::encodeName(test.path(u"run"_s)));
         defaults.setObject(Keys::moveToApplicationsFolderAlertSuppress, true);
     }
     ~LifecycleTest() override {
         ::qunsetenv("XDG_DATA_HOME");
         ::qunsetenv("XDG_DATA_DIRS");
+        ::qunsetenv("XDG_RUNTIME_DIR");
     }
     const QString picture = test.folders.screenshotsDirectoryURL() + u"/a.png"_s;
 };
@@ -74,6 +76,22 @@ TEST_F(LifecycleTest, OffersALauncherOnceAndQuitsMeanwhile) {
     const QString entry = test.path(u"data/applications/org.rook.Rook.desktop"_s);
     const QString executable = QCoreApplication::applicationFilePath();
     EXPECT_TRUE(LMFileContent(entry).contains("\nExec=\"" + executable.toUtf8() + "\"\n"));
+}
+
+TEST_F(LifecycleTest, NotesOfDeadProcessesAreRemovedAndNothingElse) {
+    QDir folder(test.path(u"run"_s));
+    const QString dead = u"rook-2147483647.json"_s; // Beyond what the kernel gives out.
+    ASSERT_TRUE(folder.mkpath(u"rook-2147483645.json"_s));
+    for (const QString& name :
+         {dead, u"rook-02147483647.json"_s, u"rook-1.json"_s, u"rook-x.json"_s,
+          u"rook-4294967296.json"_s, u"note-2147483647.json"_s})
+        LMWriteFile(folder.filePath(name));
+    ASSERT_TRUE(QFile::link(folder.filePath(dead), folder.filePath(u"rook-2147483646.json"_s)));
+    const auto entries = [&] { return folder.entryList(QDir::AllEntries | QDir::System); };
+    QStringList expected = entries();
+    ASSERT_TRUE(expected.removeOne(dead));
+    const LMActivityFile file(environment);
+    EXPECT_EQ(entries(), expected);
 }
 
 int overflow(int depth) {
