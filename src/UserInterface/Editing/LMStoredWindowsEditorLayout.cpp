@@ -100,10 +100,11 @@ LMStoredWindowsEditorWindow::LMStoredWindowsEditorWindow(LMEnvironment& environm
 // --- tables -------------------------------------------------------------------------------------
 
 void LMStoredWindowsEditorWindow::makeTables() {
+    using Width = LMTableView::Width;
     m_applicationsTableView = new LMTableView(m_applications, LMLocalized("Applications"), this);
     m_applicationsTableView->setObjectName(QStringLiteral("applicationsTableView"));
     m_applicationsTableView->horizontalHeader()->hide();
-    m_applicationsTableView->setColumnWidths({QString()});
+    m_applicationsTableView->setColumnWidths({{Width::Rest, {}}});
 
     m_windowsTableView = new LMTableView(m_windows, LMLocalized("Stored windows"), this);
     m_windowsTableView->setObjectName(QStringLiteral("windowsTableView"));
@@ -111,10 +112,13 @@ void LMStoredWindowsEditorWindow::makeTables() {
     m_windowsTableView->setItemDelegateForColumn(
         LMStoredWindowsModel::Pattern,
         new LMRegularExpressionValidationFormatter(m_windowsTableView));
-    m_windowsTableView->setColumnWidths({QStringLiteral("A name of it"), QString(),
-                                         QStringLiteral("^A pattern.*of it$"),
-                                         QStringLiteral("1920 × 1080 at -1920, 1080"),
-                                         QStringLiteral("Maximized, on desktop 2 “Mail”")});
+    // Windows are known by their titles.
+    m_windowsTableView->setColumnWidths(
+        {{Width::Text, QStringLiteral("A name of it")},
+         {Width::Rest, QStringLiteral("A title that can be read")},
+         {Width::Contents, QStringLiteral("^A pattern.*of it$")},
+         {Width::Contents, QStringLiteral("1920 × 1080 at -1920, 1080")},
+         {Width::Contents, QStringLiteral("Maximized, on desktop 2 “Mail”")}});
     m_windowsTableView->setDragDropMode(QAbstractItemView::InternalMove);
     m_windowsTableView->setDragDropOverwriteMode(false);
 
@@ -123,7 +127,8 @@ void LMStoredWindowsEditorWindow::makeTables() {
     const QString box =
         m_actions->headerData(LMActionsModel::OnDisplayChange, Qt::Horizontal, Qt::DisplayRole)
             .toString();
-    m_actionsTableView->setColumnWidths({QStringLiteral("m"), QString(), box});
+    m_actionsTableView->setColumnWidths(
+        {{Width::Text, QStringLiteral("m")}, {Width::Rest, {}}, {Width::Text, box}});
     m_actionsTableView->setPlaceholderText(
         LMLocalized("Actions are scripts that run before the windows are restored."));
 

@@ -10,11 +10,16 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QProxyStyle>
+#include <QScopedValueRollback>
 #include <QStyleOption>
+
+#include <algorithm>
 
 namespace {
 
 constexpr int RowPadding = 8;
+/// A list of thousands is not read as a whole for the width of a column.
+constexpr int MostMeasuredRows = 100;
 
 /// Shows where a dragged row would land across the whole table, not in one of its cells.
 class RowDropStyle final : public QProxyStyle {
@@ -57,16 +62,8 @@ LMTableView::LMTableView(LMRecordTableModel* records, const QString& name, QWidg
     setStyle(dropStyle);
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &LMTableView::selectedRecordChanged);
-}
-
-void LMTableView::setColumnWidths(const QStringList& widestTexts) {
-    for (int column = 0; column < widestTexts.size(); ++column) {
-        if (widestTexts[column].isNull())
-            horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
-        else
-            setColumnWidth(column,
-                           fontMetrics().horizontalAdvance(widestTexts[column]) + 3 * RowPadding);
-    }
+    connect(records, &QAbstractItemModel::dataChanged, this, &LMTableView::fitColumnsToContents);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, &LMTableView::keepWidthOfUser);
 }
 
 LMObjectID LMTableView::selectedRecord() const {
@@ -111,4 +108,64 @@ void LMTableView::paintEvent(QPaintEvent* event) {
     painter.setPen(palette().color(QPalette::PlaceholderText));
     painter.drawText(viewport()->rect().adjusted(RowPadding, RowPadding, -RowPadding, -RowPadding),
                      Qt::AlignCenter | Qt::TextWordWrap, m_placeholderText);
+}
+
+// --- widths of columns -------------------------------------------------------------------------
+
+void LMTableView::setColumnWidths(const QList<std::pair<Width, QString>>& widths) {
+    const QScopedValueRollback setting(m_isSettingWidths, true);
+    for (int column = 0; column < widths.size(); ++column) {
+        const auto& [kind, text] = widths[column];
+        const int width = widthOfText(text);
+        setColumnWidth(column, width);
+        if (kind == Width::Contents) {
+            m_mostWidths.insert(column, width);
+        } else if (kind == Width::Rest) {
+            m_restColumn = column;
+            m_leastRest = width;
+        }
+    }
+    fitColumnsToContents();
+}
+
+int LMTableView::widthOfText(const QString& text) const {
+    return fontMetrics().horizontalAdvance(text) + 2 * RowPadding;
+}
+
+int LMTableView::widthOfContents(int column) const {
+    int width = horizontalHeader()->sectionSizeHint(column);
+    for (int row = 0; row < std::min(m_records->rowCount(), MostMeasuredRows); ++row)
+        width = std::max(width, widthOfText(m_records->index(row, column).data().toString()));
+    return width;
+}
+
+void LMTableView::fitColumnsToContents() {
+    const QScopedValueRollback setting(m_isSettingWidths, true);
+    for (auto most = m_mostWidths.cbegin(); most != m_mostWidths.cend(); ++most)
+        setColumnWidth(most.key(), std::min(widthOfContents(most.key()), most.value()));
+    giveRestOfWidth();
+}
+
+// A stretched section of the header would do, were there a least width of a single section: in a
+// narrow window the others would leave nothing.
+void LMTableView::giveRestOfWidth() {
+    if (m_restColumn < 0)
+        return;
+    const QScopedValueRollback setting(m_isSettingWidths, true);
+    const int others = horizontalHeader()->length() - columnWidth(m_restColumn);
+    setColumnWidth(m_restColumn, std::max(m_leastRest, viewport()->width() - others));
+}
+
+void LMTableView::keepWidthOfUser(int column) {
+    if (m_isSettingWidths)
+        return;
+    m_mostWidths.remove(column);
+    if (column == m_restColumn)
+        m_restColumn = -1;
+    giveRestOfWidth();
+}
+
+void LMTableView::resizeEvent(QResizeEvent* event) {
+    QTableView::resizeEvent(event);
+    giveRestOfWidth();
 }

@@ -3,7 +3,10 @@
 
 #include "Model/Store/LMObjectID.h"
 
+#include <QHash>
 #include <QTableView>
+
+#include <utility>
 
 class LMRecordTableModel;
 
@@ -19,9 +22,14 @@ public:
     /// What is painted while there are no rows.
     void setPlaceholderText(const QString& text) { m_placeholderText = text; }
 
-    /// Columns as wide as these texts, with room around them; what is left is for the column whose
-    /// text is null.
-    void setColumnWidths(const QStringList& widestTexts);
+    /// What the width of a column follows.
+    enum class Width {
+        Text,     ///< The text, with room around it.
+        Contents, ///< Its header and what stands in it, up to the width of the text.
+        Rest,     ///< What other columns leave, at least the width of the text. One column has it.
+    };
+    /// For each column. A width that the user gives to one stays.
+    void setColumnWidths(const QList<std::pair<Width, QString>>& widths);
 
     /// A null identifier when nothing is selected.
     LMObjectID selectedRecord() const;
@@ -40,8 +48,19 @@ Q_SIGNALS:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    int widthOfText(const QString& text) const;
+    int widthOfContents(int column) const;
+    void fitColumnsToContents();
+    void giveRestOfWidth();
+    void keepWidthOfUser(int column);
+
     LMRecordTableModel* m_records;
     QString m_placeholderText;
+    QHash<int, int> m_mostWidths; ///< Of the columns that follow their contents.
+    int m_restColumn = -1;        ///< None when the user has given it a width.
+    int m_leastRest = 0;
+    bool m_isSettingWidths = false;
 };

@@ -17,6 +17,7 @@
 #include <QAction>
 #include <QClipboard>
 #include <QFile>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -132,6 +133,40 @@ TEST_F(StoredWindowsEditor, ChangesStatesAndTakesThatBack) {
     undo();
     EXPECT_EQ(edited->state(), std::nullopt);
     EXPECT_EQ(edited->frame(), QRectF(10, 20, 300, 200));
+}
+
+TEST_F(StoredWindowsEditor, LeavesTitlesTheWidthThatNothingElseNeeds) {
+    QHeaderView& header = *windows().horizontalHeader();
+    const auto spare = [&] { return windows().viewport()->width() - header.length(); };
+    const auto title = [&] { return header.sectionSize(Model::Title); };
+    const QSize size = window().size() + QSize(200, 0);
+    window().resize(size);
+    const int usual = title();
+    const auto showState = [&](const LMWindowState& state) {
+        stored(u"browser"_s)->setState({state, {}});
+        editor.reloadTableViews();
+        EXPECT_EQ(spare(), 0);
+        return header.sectionSize(Model::State);
+    };
+    const int narrow = showState({.isShaded = true});
+    const int wide = showState({.isShaded = true, .isKeptAbove = true});
+    const int most =
+        showState({.isShaded = true, .desktop = 1, .desktopName = u"Mail "_s.repeated(9)});
+    EXPECT_LT(narrow, wide);
+    EXPECT_LT(most, 2 * wide) << "a long name would take all";
+    window().resize(size.width() + 300, size.height());
+    EXPECT_GT(title(), usual + 100);
+    EXPECT_EQ(spare(), 0);
+    window().resize(1, size.height());
+    EXPECT_GT(title(), 100) << "rather scrolled";
+    EXPECT_LT(spare(), 0);
+
+    window().resize(size);
+    header.resizeSection(Model::State, 77);
+    EXPECT_EQ(showState({.isKeptAbove = true}), 77) << "that of the user";
+    header.resizeSection(Model::Title, 88);
+    window().resize(size.width() + 300, size.height());
+    EXPECT_EQ(title(), 88);
 }
 
 TEST_F(StoredWindowsEditor, EditsLabelsAndPatternsWithTheKeyboard) {
