@@ -34,33 +34,59 @@ QRect outerRect(const xcb_get_geometry_reply_t& geometry) {
 
 } // namespace
 
+// The members are asked in their order.
+struct LMX11WindowReader::Questions {
+    Questions(LMX11Connection& connection, const Windows& windows)
+        : coordinates(connection),
+          supported(connection, connection.root(), connection.ewmhAtoms()._NET_SUPPORTED),
+          desktops(connection), frames(requestFrames(connection, windows)) {}
+
+    LMX11CoordinatesRequest coordinates;
+    LMX11PropertyRequest supported;
+    LMX11DesktopsRequest desktops;
+    Requests frames;
+};
+
 LMX11Reading LMX11WindowReader::readFrames(const QList<xcb_window_t>& identifiers) {
     LMX11Reading reading;
+    const Windows windows = prepare(reading, identifiers);
+    Questions questions(m_connection, windows);
+    settle(windows, receive(questions, reading, windows));
+    return reading;
+}
+
+LMX11WindowReader::Windows LMX11WindowReader::prepare(LMX11Reading& reading,
+                                                      const QList<xcb_window_t>& identifiers) {
     Windows windows;
     reading.windows.resize(identifiers.size());
     for (qsizetype index = 0; index < identifiers.size(); ++index) {
         reading.windows[index].identifier = identifiers[index];
         windows.append(&reading.windows[index]);
     }
-    LMX11CoordinatesRequest coordinates(m_connection);
+    return windows;
+}
+
+LMX11WindowReader::Windows LMX11WindowReader::receive(Questions& questions, LMX11Reading& reading,
+                                                      const Windows& windows) {
     const xcb_ewmh_connection_t& atoms = m_connection.ewmhAtoms();
-    const LMX11PropertyRequest supported(m_connection, m_connection.root(), atoms._NET_SUPPORTED);
-    const LMX11DesktopsRequest desktops(m_connection);
-    const auto requests = requestFrames(m_connection, windows);
-    reading.coordinates = coordinates.receive();
-    m_tellsExtents = supported.receive(m_connection).containsWord(atoms._NET_FRAME_EXTENTS);
-    reading.desktopNames = desktops.receive(m_connection);
-    receiveFrames(requests, windows);
+    reading.coordinates = questions.coordinates.receive();
+    m_tellsExtents =
+        questions.supported.receive(m_connection).containsWord(atoms._NET_FRAME_EXTENTS);
+    reading.desktopNames = questions.desktops.receive(m_connection);
+    return receiveFrames(questions.frames, windows);
+}
+
+void LMX11WindowReader::settle(const Windows& windows, const Windows& unmeasured) {
+    measureDecorations(unmeasured);
     waitForAnimations(windows);
-    return reading;
 }
 
 void LMX11WindowReader::refresh(const Windows& windows) {
-    receiveFrames(requestFrames(m_connection, windows), windows);
-    waitForAnimations(windows);
+    settle(windows, receiveFrames(requestFrames(m_connection, windows), windows));
 }
 
-void LMX11WindowReader::receiveFrames(const Requests& requests, const Windows& windows) {
+LMX11WindowReader::Windows LMX11WindowReader::receiveFrames(const Requests& requests,
+                                                            const Windows& windows) {
     Windows unmeasured;
     for (qsizetype index = 0; index < windows.size(); ++index) {
         LMX11Window& window = *windows[index];
@@ -68,7 +94,7 @@ void LMX11WindowReader::receiveFrames(const Requests& requests, const Windows& w
         if (!isMeasured && !m_tellsExtents && window.exists)
             unmeasured.append(&window);
     }
-    measureDecorations(unmeasured);
+    return unmeasured;
 }
 
 void LMX11WindowReader::waitForAnimations(Windows windows) {
@@ -77,26 +103,30 @@ void LMX11WindowReader::waitForAnimations(Windows windows) {
     windows = animated(windows);
     while (!windows.isEmpty() && Clock::now() < deadline) {
         m_connection.waitForEvent([](const auto&) { return false; }, Clock::now() + animationStep);
-        receiveFrames(requestFrames(m_connection, windows), windows);
+        measureDecorations(receiveFrames(requestFrames(m_connection, windows), windows));
         windows = animated(windows);
     }
 }
 
-LMX11Reading LMX11WindowReader::read(const QList<xcb_window_t>& windows) {
+// Answers are taken in the order of the questions: libxcb walks over all that wait to be taken.
+LMX11Reading LMX11WindowReader::read(const QList<xcb_window_t>& identifiers) {
+    LMX11Reading reading;
+    const Windows windows = prepare(reading, identifiers);
+    Questions questions(m_connection, windows);
     std::vector<LMX11StructureRequest> requests;
     requests.reserve(size_t(windows.size()));
-    for (const xcb_window_t window : windows)
-        requests.emplace_back(m_connection, window);
+    for (const xcb_window_t identifier : identifiers)
+        requests.emplace_back(m_connection, identifier);
 
-    LMX11Reading reading = readFrames(windows);
+    const Windows unmeasured = receive(questions, reading, windows);
     std::vector<LMX11TitleRequest> longTitles;
     for (qsizetype index = 0; index < windows.size(); ++index) {
-        LMX11Window& window = reading.windows[index];
-        if (auto rest = requests[size_t(index)].receive(m_connection, window))
-            longTitles.emplace_back(m_connection, *rest, &window);
+        if (auto rest = requests[size_t(index)].receive(m_connection, *windows[index]))
+            longTitles.emplace_back(m_connection, *rest, windows[index]);
     }
     for (const LMX11TitleRequest& request : longTitles)
         request.receive(m_connection);
+    settle(windows, unmeasured);
     return reading;
 }
 

@@ -35,10 +35,10 @@ public:
         : m_connection(connection), m_mapWatch(connection) {}
 
     /// Everything about the windows. One that has vanished is marked so.
-    LMX11Reading read(const QList<xcb_window_t>& windows);
+    LMX11Reading read(const QList<xcb_window_t>& identifiers);
 
     /// Geometry, states and virtual desktop only.
-    LMX11Reading readFrames(const QList<xcb_window_t>& windows);
+    LMX11Reading readFrames(const QList<xcb_window_t>& identifiers);
 
     using Windows = QList<LMX11Window*>;
     /// The same once more for windows that were read before, under the manager of that time.
@@ -54,7 +54,15 @@ private:
         bool exists() const { return rect.isValid(); }
     };
 
-    void receiveFrames(const Requests& requests, const Windows& windows);
+    /// All that is asked before the first answer is awaited, without titles and the like.
+    struct Questions;
+
+    Windows prepare(LMX11Reading& reading, const QList<xcb_window_t>& identifiers);
+    /// Both answer the windows whose decorations are still to be measured.
+    Windows receive(Questions& questions, LMX11Reading& reading, const Windows& windows);
+    Windows receiveFrames(const Requests& requests, const Windows& windows);
+    /// What takes further questions: decorations that nobody tells, windows that are on the way.
+    void settle(const Windows& windows, const Windows& unmeasured);
     void waitForAnimations(Windows windows);
     void measureDecorations(const Windows& windows);
     Windows animated(Windows windows);
